@@ -1,0 +1,14 @@
+#include "app/assemble.h"
+
+#include "core/defs.h"
+#include "tags/register.h"
+#include "text/register.h"
+
+namespace morlan {
+
+void Assemble(Program& program) {
+  RegisterTags(program);
+  RegisterText(program);
+}
+
+}  // namespace morlan

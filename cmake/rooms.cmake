@@ -1,0 +1,10 @@
+# A room is a folder of sources that becomes one library.
+function(morlan7_room name)
+  set(patterns)
+  foreach(folder IN LISTS ARGN)
+    list(APPEND patterns ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  add_library(${name} STATIC ${sources})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()

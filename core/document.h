@@ -1,0 +1,62 @@
+// One open document: the child window around its text. Its path is its Caption, its state lies in label controls.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "core/editsurface.h"
+#include "core/menus.h"
+#include "core/undoio.h"
+#include "platform/forms/controls.h"
+
+namespace morlan {
+
+class Program;
+
+class TEditor : public Form {
+ public:
+  explicit TEditor(Program& program);
+
+  Label FileType{*this, "FileType"};            // "html", "szablon", "makro", "cdf"; empty while there is none
+  Label NeedToBeSaved{*this, "NeedToBeSaved", "False"};
+  Label CharSet{*this, "CharSet"};
+  Label LastDir{*this, "LastDir"};
+  Panel FastHelpL{*this, "FastHelpL"};          // the hint panel; its text is its caption
+  ListBox FastHelpC{*this, "FastHelpC"};        // the hints in it
+  MlnEditor EditedText;
+  UndoIO UNDO;
+  Menu menu;             // the menu bar while this document is active
+  Menu xmnm_editpopup;   // the pop-up of a right click
+
+  Program& program() const { return program_; }
+  bool IsModified() const;  // NeedToBeSaved read as a boolean
+
+  // Events of EditedText. Setting a key's code, or a character, to 0 swallows it.
+  void EditedText_OnKeyDown(KeyPress& press);
+  void EditedText_onKeyPress(int& character);
+  void EditedText_OnKeyUp(const KeyPress& press);
+  void EditedText_OnMouseDown(MouseButton button);
+  void editedtext_onChange();
+  void EditedText_GotFocus();
+  // A file dropped on the text, in the program's form: becomes a tag relative to the document's directory at the caret.
+  void DropFile(std::string_view path);
+
+  void Form_Initialize();
+  void Form_Load();
+  void Form_Activate();
+  // False when the user cancels.
+  bool Form_Unload();
+
+  void ProcessLine();
+  void ShowLineInfo();
+  void SetupDirs();
+  void FastHelpC_DblClick();
+  void InsertAtCaret(std::string_view text);
+
+ private:
+  Program& program_;
+  std::size_t shownLength_ = 0;  // the length that the size panel tells
+};
+
+}  // namespace morlan

@@ -1,0 +1,36 @@
+// The life of documents: how they come into being, are saved, listed and closed. Paths are in the program's form.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/defs.h"
+
+namespace morlan {
+
+std::string UniqueHtmlName(Program& program);
+std::string UniqueCdfName(Program& program);
+void NewEmptyDocument(Program& program);
+// Brings forward the window that has the path, or opens one. A missing file gets its message.
+void OpenDocument(Program& program, std::string_view path);
+// Opens a file's text under another title.
+void OpenDocumentAs(Program& program, std::string_view path, std::string_view title);
+void SaveDocument(Program& program);
+void SaveDocumentAs(Program& program);
+void WriteDocumentTo(Program& program, std::string_view path);
+void CloseActiveDocument(Program& program);
+void CloseAllDocuments(Program& program);
+// Unloads one document; false when the user cancels.
+bool CloseDocument(Program& program, TEditor& document);
+// Makes a document the active one, as a click on its window does.
+void ActivateDocument(Program& program, TEditor& document);
+void ActivateNextDocument(Program& program, int step);  // 1 or -1, wrapping round
+void UpdateWindowsManager(Program& program);
+void RememberOpened(Program& program, std::string_view path);
+void RefreshLastOpened(Program& program);
+std::string DocumentKindOf(Program& program, std::string_view path);  // "channel" or "html"
+std::string DecodeDocumentCharSet(Program& program, std::string text, std::string_view path);
+std::string EncodeDocumentCharSet(Program& program, std::string text);
+TEditor* FindDocument(Program& program, std::string_view caption);  // exact; null when there is none
+
+}  // namespace morlan
