@@ -1,0 +1,127 @@
+#include "platform/posix/processes.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <csignal>
+#include <system_error>
+#include <thread>
+
+#include "platform/encoding.h"
+#include "platform/files.h"
+#include "platform/posix/commandline.h"
+
+namespace morlan {
+namespace {
+
+constexpr std::size_t kMostJoined = 32;  // arguments that one path with blanks may have been split into
+
+bool IsDrivePath(std::string_view text) {
+  return text.size() >= 3 && (text[0] == 'c' || text[0] == 'C') && text[1] == ':' && (text[2] == '\\' || text[2] == '/');
+}
+bool IsPath(std::string_view text) { return text.find_first_of("\\/") != std::string_view::npos; }
+
+bool IsAddress(std::string_view text) {
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos || colon < 2) return false;
+  return std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(colon),
+                     [](unsigned char c) { return c < 0x80 && (std::isalnum(c) || c == '+' || c == '-' || c == '.'); });
+}
+
+bool Exists(Files& files, std::string_view path) { return files.Size(path) || files.DirectoryExists(path); }
+
+// How many arguments from `first` on make one existing path when they are joined by blanks; 1 when none do.
+std::size_t PathPieces(Files& files, const std::vector<std::string>& arguments, std::size_t first) {
+  std::string path = arguments[first];
+  const std::size_t most = std::min(arguments.size() - first, kMostJoined);
+  for (std::size_t count = 1; count <= most; ++count) {
+    if (count > 1) path += " " + arguments[first + count - 1];
+    if (Exists(files, path)) return count;
+  }
+  return 1;
+}
+
+std::vector<std::string> NativeArguments(Files& files, const std::vector<std::string>& arguments) {
+  std::vector<std::string> nativeArguments;
+  for (std::size_t i = 0; i < arguments.size();) {
+    const bool isPath = i == 0 ? IsPath(arguments[i]) : IsDrivePath(arguments[i]);
+    const std::size_t count = isPath ? PathPieces(files, arguments, i) : 1;
+    std::string argument = arguments[i];
+    for (std::size_t k = 1; k < count; ++k) argument += " " + arguments[i + k];
+    nativeArguments.push_back(isPath ? files.ToNative(argument) : ToUtf8(argument));
+    i += count;
+  }
+  return nativeArguments;
+}
+
+// What posix_spawn is told, freed at the end.
+class SpawnSettings {
+ public:
+  explicit SpawnSettings(const std::string& directory) {
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addchdir_np(&actions, directory.c_str());
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    posix_spawnattr_init(&attributes);
+    sigset_t none, all;
+    sigemptyset(&none);
+    sigfillset(&all);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setsigdefault(&attributes, &all);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+  }
+  ~SpawnSettings() {
+    posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributes);
+  }
+  SpawnSettings(const SpawnSettings&) = delete;
+  SpawnSettings& operator=(const SpawnSettings&) = delete;
+
+  posix_spawn_file_actions_t actions;
+  posix_spawnattr_t attributes;
+};
+
+// Takes the exit of a child when it comes, so that none stays behind as a zombie.
+void Reap(pid_t child) {
+  try {
+    std::thread([child] { ::waitpid(child, nullptr, 0); }).detach();
+  } catch (const std::system_error&) {  // no thread to be had: the child is taken over when this process ends
+  }
+}
+
+bool Spawn(const std::vector<std::string>& arguments, const std::string& directory) {
+  std::vector<char*> pointers;
+  for (const std::string& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
+  pointers.push_back(nullptr);
+  const SpawnSettings settings(directory);
+  pid_t child = 0;
+  if (::posix_spawnp(&child, pointers[0], &settings.actions, &settings.attributes, pointers.data(), ::environ) != 0) return false;
+  Reap(child);
+  return true;
+}
+
+}  // namespace
+
+PosixProcesses::PosixProcesses(Files& files) : files_(files) {}
+
+bool PosixProcesses::Start(std::string_view commandLine, int) {
+  if (commandLine.find('\0') != std::string_view::npos) return false;
+  const std::vector<std::string> arguments = SplitCommandLine(commandLine);
+  if (arguments.empty() || arguments[0].empty()) return false;
+  return Spawn(NativeArguments(files_, arguments), files_.ToNative(files_.CurrentDirectory()));
+}
+
+bool PosixProcesses::Open(std::string_view path) {
+  if (path.find('\0') != std::string_view::npos) return false;
+  const bool isAddress = IsAddress(path);
+  if (!isAddress && !Exists(files_, path)) return false;
+  return Spawn({"xdg-open", isAddress ? ToUtf8(path) : files_.ToNative(path)}, files_.ToNative(files_.CurrentDirectory()));
+}
+
+}  // namespace morlan

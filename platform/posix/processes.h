@@ -1,0 +1,27 @@
+// Starts other programs without a shell.
+#pragma once
+
+#include "platform/services.h"
+
+namespace morlan {
+
+class Files;
+
+class PosixProcesses : public Processes {
+ public:
+  explicit PosixProcesses(Files& files);
+
+  // The line is split as commandline.h tells. A program or an argument that is a path of the program's form ("c:\...") is
+  // handed over as the machine's own; where such a path stands without quotes and holds blanks, the shortest
+  // stretch that names an existing file is taken. A program without a path is looked for in PATH. It starts in the program's current
+  // directory, in a session of its own, with no input and no output. The window style is left to the desktop.
+  bool Start(std::string_view commandLine, int windowStyle) override;
+
+  // Through xdg-open. An address is anything that starts with a scheme of two letters or more; a file must exist.
+  bool Open(std::string_view path) override;
+
+ private:
+  Files& files_;
+};
+
+}  // namespace morlan
