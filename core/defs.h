@@ -10,8 +10,11 @@
 #include <vector>
 
 #include "core/commands.h"
+#include "core/editorhooks.h"
 #include "core/forms.h"
+#include "core/hints.h"
 #include "core/inifile.h"
+#include "core/tagstate.h"
 #include "core/textpasses.h"
 #include "platform/keys.h"
 #include "platform/platform.h"
@@ -34,14 +37,20 @@ class Program {
   FrontEnd& frontEnd;
   CommandTable commands;
   TextPasses passes;
+  EditorHooks hooks;
+  HintSource hints;
+  TagState tagState;
   FormCollection forms;
   // "Run this binding": the user's own key assignments; true when the key ran something.
   std::function<bool(const KeyPress&)> runShortcut;
+  // Runs a macro by its name; false when there is none. Empty while nothing offers macros.
+  std::function<bool(std::string_view name)> runMacro;
 
   INIFile MainIni, ProjectIni;
   std::string ProgramPath;  // always ends in "\"
   std::string TempDir;      // always ends in "\"
   std::string TempFile, PreviewFile, TempFileN, TempFileE;
+  std::string HelpFile;
   std::string DialogResult;
   std::uint8_t DialogChoice = 0;
   std::string WizardFile;
@@ -55,7 +64,7 @@ class Program {
   bool WindowsListDirty = false;
 
   // The frame. It exists from construction to the end.
-  Morlan& frame() { return *morlan_; }
+  Morlan& frame() const { return *morlan_; }
 
   // Open documents in the order of their opening. A document that closes stays alive until ForgetClosed.
   std::vector<std::shared_ptr<TEditor>> documents;

@@ -18,16 +18,16 @@ class TEditor : public Form {
  public:
   explicit TEditor(Program& program);
 
-  Label FileType{*this, "FileType"};            // "html", "szablon", "makro", "cdf"; empty while there is none
+  Label FileType{*this, "FileType"};  // "html", "szablon", "makro", "cdf"; empty while there is none
   Label NeedToBeSaved{*this, "NeedToBeSaved", "False"};
   Label CharSet{*this, "CharSet"};
   Label LastDir{*this, "LastDir"};
-  Panel FastHelpL{*this, "FastHelpL"};          // the hint panel; its text is its caption
-  ListBox FastHelpC{*this, "FastHelpC"};        // the hints in it
+  Panel FastHelpL{*this, "FastHelpL"};    // the hint panel; its text is its caption
+  ListBox FastHelpC{*this, "FastHelpC"};  // the hints in it
   MlnEditor EditedText;
   UndoIO UNDO;
-  Menu menu;             // the menu bar while this document is active
-  Menu xmnm_editpopup;   // the pop-up of a right click
+  Menu menu;            // the menu bar while this document is active
+  Menu xmnm_editpopup;  // the pop-up of a right click
 
   Program& program() const { return program_; }
   bool IsModified() const;  // NeedToBeSaved read as a boolean
@@ -48,15 +48,39 @@ class TEditor : public Form {
   // False when the user cancels.
   bool Form_Unload();
 
+  // Colours what the user's last edit reaches.
   void ProcessLine();
   void ShowLineInfo();
+  void ShowSize();  // the length of the text, in the status line
+  // Replaces the selection as a command does, records nothing, and colours what that reaches.
+  void ReplaceAndColour(std::string_view text);
+  // The user's next change comes from the keyboard, so that ProcessLine has to colour it.
+  void ExpectTyping() { lineEdited_ = true; }
   void SetupDirs();
   void FastHelpC_DblClick();
   void InsertAtCaret(std::string_view text);
 
  private:
+  void RecordDelete(KeyPress& press);
+  void RecordBackspace(KeyPress& press);
+  void RecordDeletion(std::size_t position, std::size_t width);
+  void RecordPaste(KeyPress& press);
+  void OpenSheetOrMenu(KeyPress& press);
+  void OpenContextMenu(KeyPress& press);
+  void ShowNextDocument(KeyPress& press);
+  void ShowPreviousDocument(KeyPress& press);
+  void RepeatInsertion(KeyPress& press);
+  void InsertNbsp(KeyPress& press);
+  void InsertBr(KeyPress& press);
+  void RunShortcut(KeyPress& press);
+  void ShowHints();
+  void HideHints();
+  void MarkAsModified();
+  void TakeColours();
+
   Program& program_;
   std::size_t shownLength_ = 0;  // the length that the size panel tells
+  bool lineEdited_ = false;      // the flag of ProcessLine
 };
 
 }  // namespace morlan

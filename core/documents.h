@@ -13,8 +13,8 @@ std::string UniqueCdfName(Program& program);
 void NewEmptyDocument(Program& program);
 // Brings forward the window that has the path, or opens one. A missing file gets its message.
 void OpenDocument(Program& program, std::string_view path);
-// Opens a file's text under another title.
-void OpenDocumentAs(Program& program, std::string_view path, std::string_view title);
+// Opens a file's text under another title. False when there is no such file.
+bool OpenDocumentAs(Program& program, std::string_view path, std::string_view title);
 void SaveDocument(Program& program);
 void SaveDocumentAs(Program& program);
 void WriteDocumentTo(Program& program, std::string_view path);

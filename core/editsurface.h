@@ -7,7 +7,6 @@
 // a bit for bold.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -15,6 +14,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/gapbuffer.h"
+#include "core/linestarts.h"
 #include "platform/colour.h"
 #include "platform/keys.h"
 #include "platform/windows.h"
@@ -62,43 +63,48 @@ class MlnEditor {
   MlnEditor& operator=(const MlnEditor&) = delete;
 
   // --- the text
-  const std::string& Text() const;
+  const std::string& Text() const { return text_.Whole(); }
   void SetText(std::string text);  // no edit: Modified becomes false, the caret 0, all characters plain
-  std::size_t Length() const { return length_; }
-  char At(std::size_t offset) const { return buffer_[offset < gapStart_ ? offset : offset + GapLength()]; }
+  std::size_t Length() const { return text_.Size(); }
+  char At(std::size_t offset) const { return text_.At(offset); }
   std::string Slice(std::size_t offset, std::size_t length) const;
   // The two stretches of text in front of and behind the gap.
-  std::string_view FrontText() const { return {buffer_.data(), gapStart_}; }
-  std::string_view BackText() const { return {buffer_.data() + gapStart_ + GapLength(), length_ - gapStart_}; }
+  std::string_view FrontText() const { return {text_.Front(), text_.GapStart()}; }
+  std::string_view BackText() const { return {text_.Back(), text_.Size() - text_.GapStart()}; }
 
   // --- the selection; both are cut to the text
   std::size_t SelStart() const { return selStart_; }
   std::size_t SelLength() const { return selLength_; }
-  void SetSelStart(std::size_t offset);   // leaves SelLength alone, as far as the text reaches
+  void SetSelStart(std::size_t offset);  // leaves SelLength alone, as far as the text reaches
   void SetSelLength(std::size_t length);
   void Select(std::size_t start, std::size_t length);
   std::string SelText() const { return Slice(selStart_, selLength_); }
-  // Replaces the selection, leaves the caret behind the new text, sets Modified, raises OnChange.
+  // Replaces the selection, leaves the caret behind the new text, sets Modified, raises OnChange. Nothing in the place
+  // of nothing is no change.
   void SetSelText(std::string_view text);
   // The end of the selection that moves with the keys, and the one that stays.
   std::size_t Caret() const { return caretAtStart_ ? selStart_ : selStart_ + selLength_; }
   std::size_t Anchor() const { return caretAtStart_ ? selStart_ + selLength_ : selStart_; }
   void SelectFrom(std::size_t anchor, std::size_t caret);
+  void SelectWord(std::size_t offset);  // the word, the blanks or the signs that lie there
+  void SelectLine(std::size_t line);    // with its line end
 
   // --- colours
   void SetSelColor(Colour colour);
   void SetSelBold(bool bold);
-  // The palette number of a colour; makes a new entry where there is room, else answers with plain.
+  // The palette number of a colour; makes a new entry where there is room, else answers with plain. TextColor is plain.
   Style StyleOf(Colour colour);
   void SetStyle(std::size_t offset, std::size_t length, Style style);
   // Sets the styles of a whole stretch at once; `styles` holds one byte a character.
   void SetStyles(std::size_t offset, const std::vector<Style>& styles);
-  Style StyleAt(std::size_t offset) const { return styles_[offset < gapStart_ ? offset : offset + GapLength()]; }
+  Style StyleAt(std::size_t offset) const { return styles_.At(offset); }
+  // The styles of a stretch, which lies within the text, into one byte a character.
+  void CopyStyles(std::size_t offset, std::size_t length, Style* target) const { styles_.CopyTo(target, offset, length); }
   Colour ColourOfStyle(Style style) const;
 
   // --- lines, from 0
-  std::size_t LineCount() const { return lineStarts_.size(); }
-  std::size_t LineFromChar(std::size_t offset) const;
+  std::size_t LineCount() const { return lines_.Count(); }
+  std::size_t LineFromChar(std::size_t offset) const { return lines_.LineOf(offset); }
   std::size_t LineIndex(std::size_t line) const;  // offset of its first character; the text's length behind the last line
   std::size_t LineEnd(std::size_t line) const;    // in front of its line end
 
@@ -106,8 +112,14 @@ class MlnEditor {
   // False when the key means nothing to the control. The clipboard keys are not among these.
   bool PerformKey(const KeyPress& press, RowLayout* layout);
   void PerformCharacter(char character);  // types over the selection; 13 is a line end
+  // What Enter types at SelStart: CR LF, then the blanks at the front of the line where SetupCarret is on, then "<LI>"
+  // behind a list item where ExtendLI is on.
+  std::string TextOfEnter() const;
+  // The characters that Backspace and Delete take at an offset: two at CR LF, none at the ends of the text.
+  std::size_t WidthBefore(std::size_t offset) const;
+  std::size_t WidthBehind(std::size_t offset) const;
 
-  // The name of the tag in which the caret stands, empty outside a tag.
+  // The name of the tag in which the caret stands, up to the caret, with the blanks in front of it; empty outside a tag.
   std::string CurrentTag() const;
 
   // --- properties
@@ -136,15 +148,18 @@ class MlnEditor {
   RowLayout* AttachedLayout() const { return layout_; }
 
  private:
-  std::size_t GapLength() const { return buffer_.size() - length_; }
-  void MoveGap(std::size_t offset, std::size_t room) const;
-  void Replace(std::size_t offset, std::size_t removed, std::string_view inserted);
+  // Replaces characters without raising events.
+  LineStarts::Change Replace(std::size_t offset, std::size_t removed, std::string_view inserted);
+  void SelectionChanged();
+  void MoveCaret(std::size_t caret, bool selecting);
+  bool MoveByKey(const KeyPress& press, RowLayout& layout);
+  void MoveByRows(std::ptrdiff_t rows, bool selecting, RowLayout& layout);
+  void DeleteByKey(bool backwards);
+  bool IsLineStart(std::size_t offset) const;
 
-  mutable std::string buffer_;
-  mutable std::vector<Style> styles_;
-  mutable std::size_t gapStart_ = 0;
-  std::size_t length_ = 0;
-  std::vector<std::uint32_t> lineStarts_{0};
+  GapBuffer<std::string> text_;
+  GapBuffer<std::vector<Style>> styles_;
+  LineStarts lines_;
   std::size_t selStart_ = 0, selLength_ = 0;
   bool caretAtStart_ = false;
   double wantedPlace_ = -1;  // the horizontal place that up and down keep; negative when none

@@ -7,6 +7,7 @@
 // directory. A failed look-up answers with the error value, the empty string unless SetError was called.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -42,11 +43,16 @@ class INIFile {
   void CloseFile();
   void AppendFile();
   void OpenTmp();
-  void CloseTmp();
+  bool CloseTmp();  // writes what was printed; false when that failed or none was open
   void KillTmp();
   static std::string KillSpaces(std::string_view text);  // without the blanks (32), wherever they stand
 
  private:
+  // Copies the store, giving the name of the sub-item's first line, "=" included, to `print` instead of copying that line.
+  void RewriteSubItem(std::string_view item, std::string_view subItem, const std::function<void(std::string_view name)>& print);
+  void PrintToTmp(std::string_view line);
+  void ReplaceByTmp();
+
   Files& files_;
   std::string fileName_, errorValue_;
   std::string content_;    // of the open file

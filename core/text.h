@@ -29,7 +29,7 @@ std::string Concat(std::initializer_list<std::string_view> pieces);
 std::size_t Find(std::string_view text, std::string_view needle, std::size_t from = 1);
 std::size_t FindNoCase(std::string_view text, std::string_view needle, std::size_t from = 1);
 
-std::string_view TrimLeft(std::string_view text);   // blanks (32) only
+std::string_view TrimLeft(std::string_view text);  // blanks (32) only
 std::string_view TrimRight(std::string_view text);
 std::string_view Trim(std::string_view text);
 bool StartsWithNoCase(std::string_view text, std::string_view start);

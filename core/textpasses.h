@@ -19,6 +19,8 @@ struct TextPasses {
   // Ticks the character-set entries of a document's menu by the text's META tag.
   std::function<void(TEditor& document)> markCharset;
 
+  // Reads the colour settings and gives them to all open documents.
+  std::function<void()> loadColours;
   std::function<void(MlnEditor& editor)> colourDocument;
   // Positions from 1; below 1 they mean the first and the last character.
   std::function<void(MlnEditor& editor, std::ptrdiff_t from, std::ptrdiff_t to)> colourBlock;

@@ -23,5 +23,7 @@ struct MenuRow;
 std::span<const MenuRow> DocumentMenuRows();
 std::span<const MenuRow> FrameMenuRows();
 std::span<const MenuRow> EditPopupRows();
+// The menus of the insert commands; they stand behind "Edycja" in a document's menu bar.
+std::span<const MenuRow> InsertMenuRows();
 
 }  // namespace morlan
