@@ -30,6 +30,7 @@ struct FileRequest {
   std::string filter;  // "Opis|*.a,*.b|Opis|*.c": description and patterns in turn, patterns parted by ";"
   std::string directory;
   std::string fileName;
+  std::string extension;  // what the caller adds to a name without a dot, such as ".html"; the overwrite prompt reckons with it
   bool overwritePrompt = false;
 };
 

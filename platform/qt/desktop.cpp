@@ -1,0 +1,54 @@
+#include "platform/qt/desktop.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "core/morlan.h"
+#include "platform/qt/pictureofwindow.h"
+
+namespace morlan {
+
+Desktop::Desktop(const MachineServices& machine)
+    : machine_(machine),
+      places_(machine.environment, machine.files),
+      theme_(places_),
+      windows_(machine.files, places_),
+      frontEnd_(windows_, places_, theme_) {}
+
+Platform Desktop::platform() {
+  return {machine_.files, machine_.environment, machine_.registry, machine_.processes, machine_.clock, clipboard_, printer_, windows_};
+}
+
+void Desktop::Start(Program& program) {
+  frontEnd_.Register(program);
+  StartUp(program);
+  // A picture is of the window, not of the greeting above it.
+  if (IsPictureWanted()) program.frame().splashShown = true;
+  frontEnd_.Show(program);
+}
+
+void Desktop::Finish() { frontEnd_.Hide(); }
+
+void PrepareToolkit() {
+  // One look on every desktop, and no search for the desktop's own style.
+  QApplication::setStyle(QStringLiteral("fusion"));
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+}
+
+void SetUpToolkit() {
+  QCoreApplication::setApplicationName(QStringLiteral("morlan7"));
+  QGuiApplication::setApplicationDisplayName(QStringLiteral("Morlan7"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("morlan7"));
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  const QLocale polish(QLocale::Polish, QLocale::Poland);
+  QLocale::setDefault(polish);
+  // The toolkit's own dialogs speak Polish where its translation is installed.
+  auto* translator = new QTranslator(qApp);
+  if (translator->load(QStringLiteral("qtbase_pl"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(translator);
+}
+
+}  // namespace morlan

@@ -1,0 +1,50 @@
+#include "platform/qt/pictureofwindow.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+
+#include <time.h>
+#include <unistd.h>
+
+namespace morlan {
+namespace {
+
+constexpr const char* kPictureVariable = "MORLAN7_PICTURE";
+constexpr const char* kTraceVariable = "MORLAN7_TRACE_START";
+constexpr int kRestMilliseconds = 300;
+constexpr int kStartTimeField = 22;  // of /proc/self/stat, counted from 1, in clock ticks since the machine's start
+
+// 0 when it cannot be told.
+double StartOfProcessInSeconds() {
+  QFile file(QStringLiteral("/proc/self/stat"));
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  const QByteArray line = file.readAll();
+  // The second field, in parentheses, may hold blanks.
+  const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+  return fields.size() <= kStartTimeField - 3 ? 0 : fields[kStartTimeField - 3].toDouble() / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+}  // namespace
+
+bool IsPictureWanted() { return !qEnvironmentVariableIsEmpty(kPictureVariable); }
+
+bool SavePictureAndQuit(QWidget& window) {
+  if (!IsPictureWanted()) return false;
+  QTimer::singleShot(kRestMilliseconds, &window,
+                     [&window] { QCoreApplication::exit(window.grab().save(qEnvironmentVariable(kPictureVariable)) ? 0 : 1); });
+  return true;
+}
+
+void TraceStart() {
+  if (qEnvironmentVariableIsEmpty(kTraceVariable)) return;
+  timespec now = {};
+  clock_gettime(CLOCK_BOOTTIME, &now);
+  const double seconds = static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+  std::fprintf(stderr, "first paint after %.0f ms\n", (seconds - StartOfProcessInSeconds()) * 1000);
+}
+
+}  // namespace morlan

@@ -1,0 +1,139 @@
+#include "platform/qt/qtwindows.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QEventLoop>
+#include <QFontDatabase>
+#include <QFontDialog>
+
+#include "platform/qt/filedialogs.h"
+#include "platform/qt/formdialog.h"
+#include "platform/qt/messages.h"
+#include "platform/qt/qttext.h"
+#include "platform/qt/sendkeys.h"
+
+namespace morlan {
+namespace {
+
+// Commands may yield on every key; looking for events more often than people notice would only cost time.
+constexpr int kYieldMilliseconds = 15;
+
+QFont ToQtFont(const FontChoice& choice) {
+  QFont font(ToQt(choice.name));
+  font.setPointSizeF(choice.size > 0 ? choice.size : 10);
+  font.setBold(choice.bold);
+  font.setItalic(choice.italic);
+  font.setUnderline(choice.underline);
+  font.setStrikeOut(choice.strikeThrough);
+  return font;
+}
+
+}  // namespace
+
+QtWindows::QtWindows(Files& files, WindowPlaces& places) : files_(files), places_(places) { sinceYield_.start(); }
+
+QtWindows::~QtWindows() {
+  for (const auto& [form, dialog] : open_) delete dialog;
+}
+
+QWidget* QtWindows::Parent() const {
+  QWidget* modal = QApplication::activeModalWidget();
+  return modal ? modal : mainWindow_.data();
+}
+
+bool QtWindows::BringForward(Form& form) {
+  const auto found = open_.find(&form);
+  if (found == open_.end()) return false;
+  found->second->raise();
+  found->second->activateWindow();
+  return true;
+}
+
+void QtWindows::ShowModal(Form& form) {
+  if (BringForward(form)) return;
+  FormDialog dialog(form, files_, &places_, Parent());
+  QEventLoop loop;
+  dialog.onHidden = [&loop] { loop.quit(); };
+  form.BecomeVisible();
+  if (!form.IsVisible()) return;
+  dialog.Build();
+  dialog.setWindowModality(Qt::ApplicationModal);
+  open_[&form] = &dialog;
+  dialog.show();
+  loop.exec();
+  open_.erase(&form);
+}
+
+void QtWindows::Show(Form& form) {
+  if (BringForward(form)) return;
+  auto* dialog = new FormDialog(form, files_, &places_, mainWindow_);
+  dialog->onHidden = [this, &form, dialog] {
+    open_.erase(&form);
+    dialog->deleteLater();
+  };
+  open_[&form] = dialog;
+  form.BecomeVisible();
+  if (!form.IsVisible()) return;
+  dialog->Build();
+  dialog->show();
+}
+
+Answer QtWindows::Message(const MessageRequest& request) { return AskMessage(request, Parent()); }
+
+std::optional<std::string> QtWindows::Input(std::string_view prompt, std::string_view title, std::string_view text) {
+  return AskInput(prompt, title, text, Parent());
+}
+
+std::optional<std::string> QtWindows::AskFile(const FileRequest& request) { return AskForFile(request, files_, Parent()); }
+
+std::optional<std::string> QtWindows::AskDirectory(std::string_view title, std::string_view directory) {
+  return AskForDirectory(title, directory, files_, Parent());
+}
+
+std::optional<Colour> QtWindows::AskColour(Colour colour) {
+  const QColor chosen = QColorDialog::getColor(QColor(RedOf(colour), GreenOf(colour), BlueOf(colour)), Parent());
+  if (!chosen.isValid()) return std::nullopt;
+  return RgbColour(static_cast<std::uint8_t>(chosen.red()), static_cast<std::uint8_t>(chosen.green()),
+                   static_cast<std::uint8_t>(chosen.blue()));
+}
+
+std::optional<FontChoice> QtWindows::AskFont(const FontChoice& font) {
+  bool accepted = false;
+  const QFont chosen = QFontDialog::getFont(&accepted, ToQtFont(font), Parent());
+  if (!accepted) return std::nullopt;
+  return FontChoice{FromQt(chosen.family()), chosen.pointSizeF(), chosen.bold(), chosen.italic(), chosen.underline(), chosen.strikeOut()};
+}
+
+// The printer puts its dialog itself when there is something to print.
+bool QtWindows::AskPrint() { return true; }
+
+void QtWindows::Yield() {
+  if (sinceYield_.elapsed() < kYieldMilliseconds) return;
+  ++yields_;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  --yields_;
+  sinceYield_.restart();
+}
+
+void QtWindows::ShowBusyPointer(bool busy) {
+  if (busy_ == busy) return;
+  busy_ = busy;
+  if (busy)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
+}
+
+std::vector<std::string> QtWindows::FontNames() {
+  std::vector<std::string> names;
+  for (const QString& family : QFontDatabase::families()) names.push_back(FromQt(family));
+  return names;
+}
+
+void QtWindows::SendKeys(std::string_view keys) {
+  if (QWidget* focused = QApplication::focusWidget()) PostKeys(keys, *focused);
+}
+
+void QtWindows::Beep() { QApplication::beep(); }
+
+}  // namespace morlan

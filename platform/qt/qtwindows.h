@@ -1,0 +1,56 @@
+// Forms, questions and the common dialogs on the desktop.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QWidget>
+#include <map>
+#include <memory>
+
+#include "platform/files.h"
+#include "platform/windows.h"
+
+namespace morlan {
+
+class FormDialog;
+class WindowPlaces;
+
+class QtWindows : public Windows {
+ public:
+  QtWindows(Files& files, WindowPlaces& places);
+  ~QtWindows() override;
+
+  // The window above which dialogs come up; null while there is none.
+  void SetMainWindow(QWidget* window) { mainWindow_ = window; }
+  // Whether the program waits in the middle of a command for other events to be handled.
+  bool IsYielding() const { return yields_ > 0; }
+
+  void ShowModal(Form& form) override;
+  void Show(Form& form) override;
+  Answer Message(const MessageRequest& request) override;
+  std::optional<std::string> Input(std::string_view prompt, std::string_view title, std::string_view text) override;
+  std::optional<std::string> AskFile(const FileRequest& request) override;
+  std::optional<std::string> AskDirectory(std::string_view title, std::string_view directory) override;
+  std::optional<Colour> AskColour(Colour colour) override;
+  std::optional<FontChoice> AskFont(const FontChoice& font) override;
+  bool AskPrint() override;
+  void Yield() override;
+  void ShowBusyPointer(bool busy) override;
+  std::vector<std::string> FontNames() override;
+  void SendKeys(std::string_view keys) override;
+  void Beep() override;
+
+ private:
+  QWidget* Parent() const;
+  bool BringForward(Form& form);
+
+  Files& files_;
+  WindowPlaces& places_;
+  QPointer<QWidget> mainWindow_;
+  std::map<const Form*, FormDialog*> open_;
+  QElapsedTimer sinceYield_;
+  int yields_ = 0;
+  bool busy_ = false;
+};
+
+}  // namespace morlan

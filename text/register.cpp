@@ -1,0 +1,46 @@
+#include "text/register.h"
+
+#include "core/defs.h"
+#include "text/documentcharset.h"
+#include "text/jumptolabel.h"
+#include "text/search.h"
+#include "text/searchreplace.h"
+
+namespace morlan {
+namespace {
+
+template <class Dialog>
+void ShowDialog(Program& program) {
+  program.platform.windows.ShowModal(program.forms.Get<Dialog>());
+}
+
+struct CommandRow {
+  std::string_view menu, toolbarKey;
+  std::string_view form;  // its name, for the commands that open one
+  void (*run)(Program& program);
+};
+constexpr CommandRow kCommands[] = {
+    {"xmn_find", "search", "search", ShowDialog<SearchForm>},
+    {"xmn_replace", "replace", "SearchReplace", ShowDialog<SearchReplace>},
+    {"xmn_findnext", "", "", FindNext},
+    {"xmn_jumptolabel", "", "JumpToLabel", ShowDialog<JumpToLabel>},
+};
+
+void RegisterCommands(Program& program) {
+  for (const CommandRow& row : kCommands) {
+    const auto run = [&program, &row] { row.run(program); };
+    program.commands.OnMenu(row.menu, run);
+    if (!row.toolbarKey.empty()) program.commands.OnToolbar("Toolbar0", row.toolbarKey, run);
+    if (!row.form.empty()) program.forms.OnShow(row.form, run);
+  }
+}
+
+}  // namespace
+
+void RegisterText(Program& program) {
+  program.passes.decode = [&program](std::string text, std::string_view path) { return DecodeCharSet(program, std::move(text), path); };
+  program.passes.markCharset = MarkCharSet;
+  RegisterCommands(program);
+}
+
+}  // namespace morlan
