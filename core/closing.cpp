@@ -22,16 +22,22 @@ Answer AskToSave(Program& program, const TEditor& document) {
                                            .buttons = Buttons::YesNoCancel});
 }
 
+bool IsOpen(const Program& program, const TEditor* document) {
+  return std::any_of(program.documents.begin(), program.documents.end(), [&](const auto& open) { return open.get() == document; });
+}
+
+void SetActive(Program& program, TEditor* document) {
+  program.ActiveDocument = document;
+  program.ActiveEditor = document ? &document->EditedText : nullptr;
+}
+
 void Forget(Program& program, TEditor& document) {
   const auto place =
       std::find_if(program.documents.begin(), program.documents.end(), [&](const auto& open) { return open.get() == &document; });
   if (place == program.documents.end()) return;
   program.closedDocuments.push_back(*place);
   program.documents.erase(place);
-  if (program.ActiveDocument == &document) {
-    program.ActiveDocument = program.documents.empty() ? nullptr : program.documents.back().get();
-    program.ActiveEditor = program.ActiveDocument ? &program.ActiveDocument->EditedText : nullptr;
-  }
+  if (program.ActiveDocument == &document) SetActive(program, program.documents.empty() ? nullptr : program.documents.back().get());
   program.frontEnd.DocumentClosed(document);
 }
 
@@ -67,9 +73,12 @@ bool UnloadDocument(Program& program, TEditor& document) {
 
 bool CloseDocument(Program& program, TEditor& document) {
   TEditor* const before = program.ActiveDocument;
-  if (!UnloadDocument(program, document)) return false;
-  if (program.ActiveDocument != before) BringActiveForward(program);
-  return true;
+  const bool closed = UnloadDocument(program, document);
+  if (closed && program.ActiveDocument == before) return true;
+  // Saving makes a document the active one; what was in front before stays in front.
+  if (closed && IsOpen(program, before)) SetActive(program, before);
+  BringActiveForward(program);
+  return closed;
 }
 
 void CloseActiveDocument(Program& program) {

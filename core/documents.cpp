@@ -7,6 +7,7 @@
 #include "core/frontend.h"
 #include "core/morlan.h"
 #include "core/paths.h"
+#include "core/programmenus.h"
 #include "core/status.h"
 #include "core/text.h"
 #include "core/windowslist.h"
@@ -50,6 +51,7 @@ TEditor& MakeDocument(Program& program, std::string_view caption) {
   const auto document = std::make_shared<TEditor>(program);
   program.documents.push_back(document);
   document->SetCaption(caption);
+  SetUpMenu(program, document->menu);
   return *document;
 }
 

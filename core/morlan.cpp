@@ -63,7 +63,7 @@ Morlan::Morlan(Program& program) : Form("Morlan", "Morlan7 - Edytor HTML - Wersj
   SSTab1.Add({.key = "files", .text = "Pliki", .tag = ""});
   SSTab1.Select(0);
   CDFObject.SetVisible(false);
-  // The internal preview that these two switch to does not exist yet in this form of the frame.
+  // Nothing offers an internal preview that these two could switch to.
   SelEditor.SetVisible(false);
   SelViewer.SetVisible(false);
   Timer1.OnTimer = [&program] { Timer1_Timer(program); };

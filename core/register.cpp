@@ -20,7 +20,7 @@ void ChooseDocument(Program& program) {
   EnableToolbars(program);
   FileRequest request;
   request.title = "Otwórz dokument"_pl;
-  request.filter = "Pliki HTML (*.HTML,*.HTM,*SHTM)|*.html;*.htm;*.shtml|Pliki kanałów inf. (*.CDF)|*.cdf|Wszystkie pliki (*.*)|*.*|"_pl;
+  request.filter = "Pliki HTML (*.HTML,*.HTM,*SHTM)|*.html;*.htm;*.shtm|Pliki kanałów inf. (*.CDF)|*.cdf|Wszystkie pliki (*.*)|*.*|"_pl;
   if (program.ActiveDocument) request.directory = program.ActiveDocument->LastDir.Caption();
   const std::string name = program.platform.windows.AskFile(request).value_or("");
   if (name.empty()) return;

@@ -23,6 +23,8 @@ struct MenuRow;
 std::span<const MenuRow> DocumentMenuRows();
 std::span<const MenuRow> FrameMenuRows();
 std::span<const MenuRow> EditPopupRows();
+// The commands for the selection, as they stand in the menu "Format" and in the quick menu.
+std::span<const MenuRow> SelectionMenuRows();
 // The menus of the insert commands; they stand behind "Edycja" in a document's menu bar.
 std::span<const MenuRow> InsertMenuRows();
 

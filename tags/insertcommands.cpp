@@ -7,6 +7,8 @@
 #include "core/document.h"
 #include "core/text.h"
 #include "tags/colouring.h"
+#include "tags/editedcolouring.h"
+#include "tags/pairrows.h"
 #include "tags/tagscan.h"
 
 namespace morlan {
@@ -37,6 +39,8 @@ void InsertPair(Program& program, std::string_view openText, std::string_view cl
   document.UNDO.AddChange(behindSelection, 0, close, "", ChangeKind::Replacement);
   editor.SetSelText(close);
   ColorizeBlock(program, editor, Signed(start) - 1, Signed(behindSelection + close.size()));
+  // The block does not know that it may lie in a comment or in the middle of a tag.
+  ColourEdited(program, editor, start, behindSelection + close.size());
   editor.Select(start + open.size(), 0);
   editor.SetFocus();
   state.LastOpenText = open;
@@ -51,7 +55,17 @@ void ReplaceSelection(Program& program, std::string_view text) {
   const std::string removed = editor.SelText();
   program.ActiveDocument->UNDO.AddChange(editor.SelStart(), editor.SelLength(), text, removed, ChangeKind::Replacement);
   editor.SetSelText(text);
+  ColourEdited(program, editor, editor.SelStart() - text.size(), editor.SelStart());
   editor.SetFocus();
+}
+
+void RegisterInsertCommands(Program& program) {
+  for (const PairRow& row : PairRows()) {
+    const auto run = [&program, &row] { InsertPair(program, row.open, row.close); };
+    program.commands.OnMenu(row.menu, run);
+    if (!row.toolbar.empty()) program.commands.OnToolbar(row.toolbar, row.key, run);
+  }
+  program.commands.OnMenu(kRepeatEntry, [&program] { RepeatLastInsertion(program); });
 }
 
 }  // namespace morlan

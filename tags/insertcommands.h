@@ -17,7 +17,7 @@ void RepeatLastInsertion(Program& program);
 // Puts a text in the place of the selection, as one undo step that gives the selection back.
 void ReplaceSelection(Program& program, std::string_view text);
 
-// The commands of the toolbars Toolbar1 to Toolbar14 and of the menus that need no dialog.
+// The commands that insert a fixed pair, and the repeat command.
 void RegisterInsertCommands(Program& program);
 
 }  // namespace morlan

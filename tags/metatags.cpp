@@ -6,6 +6,7 @@
 #include "core/defs.h"
 #include "core/document.h"
 #include "core/text.h"
+#include "tags/editedcolouring.h"
 #include "tags/insertcommands.h"
 #include "tags/tagscan.h"
 
@@ -114,7 +115,7 @@ std::optional<Change> PlaceOfNewMeta(std::string_view text, std::string_view met
 
 // An offset that stays with the text beside it when text in front of it changes.
 std::size_t Moved(std::size_t offset, const Change& change) {
-  if (offset < change.offset + change.removed || (change.removed != 0 && offset == change.offset)) return offset;
+  if (offset < change.offset + change.removed) return offset;
   return offset - change.removed + change.inserted.size();
 }
 
@@ -126,6 +127,7 @@ void ReplaceTag(Program& program, const Change& change) {
   program.ActiveDocument->UNDO.AddChange(change.offset, 0, change.inserted, old, ChangeKind::Replacement);
   editor.Select(change.offset, change.removed);
   editor.SetSelText(change.inserted);
+  ColourEdited(program, editor, change.offset, change.offset + change.inserted.size());
 }
 
 void InsertAt(Program& program, const Change& change) {

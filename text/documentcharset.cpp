@@ -26,7 +26,7 @@ std::string DecodeCharSet(Program& program, std::string text, std::string_view) 
 
 void MarkCharSet(TEditor& document) {
   for (const CharSetRow& row : kCharSets) document.menu.SetChecked(row.menu, false);
-  const std::string content = GetMetaContentOfText(document.EditedText.Text(), "Content-Type");
+  const std::string content = GetUpperCaseMetaContent(document.EditedText.Text(), "Content-Type");
   const std::string name = LowerCase(GetTagParam(content, "charset"));
   if (name.empty()) return;
   for (const CharSetRow& row : kCharSets)

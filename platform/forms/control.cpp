@@ -55,6 +55,12 @@ bool Control::UserDblClicks() {
   return true;
 }
 
+bool Control::UserRightClicks() {
+  if (!enabled_ || !visible_) return false;
+  if (OnRightClick) OnRightClick();
+  return true;
+}
+
 void Control::UserLeaves() {
   if (OnLostFocus) OnLostFocus();
 }

@@ -56,11 +56,12 @@ class Control {
   virtual bool UserSetsText(std::string_view) { return false; }
 
   // Events. A view or a script raises them through the functions below, so that a disabled control stays silent.
-  std::function<void()> OnClick, OnDblClick, OnGotFocus, OnLostFocus;
+  std::function<void()> OnClick, OnDblClick, OnRightClick, OnGotFocus, OnLostFocus;
   std::function<void(KeyPress&)> OnKeyDown;  // setting the code to 0 swallows the key
 
   bool UserClicks();
   bool UserDblClicks();
+  bool UserRightClicks();
   void UserLeaves();
 
   std::string Tag;  // free for the form's code

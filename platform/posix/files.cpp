@@ -114,6 +114,7 @@ std::optional<std::string> PosixFiles::Spelt(std::string_view path) const {
   std::string nativePath = fromRoot || currentDirectory_ == "/" ? "" : currentDirectory_;
   for (const std::string_view part : PartsOf(path, kProgramSeparators)) Descend(nativePath, part);
   if (nativePath.empty()) return "/";
+  if (nativePath.size() >= PATH_MAX) return std::nullopt;
   // The trailing slash makes the machine refuse a file where a directory is meant.
   if (!path.empty() && IsSeparator(path.back())) nativePath += '/';
   return nativePath;

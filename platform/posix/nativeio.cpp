@@ -188,7 +188,7 @@ bool Replace(const std::string& path, std::string_view bytes) {
   const std::optional<std::string> target = LinkTarget(path);
   if (!target) return false;
   const auto old = Status(*target);
-  if (old && (!S_ISREG(old->st_mode) || ::access(target->c_str(), W_OK) != 0)) return false;
+  if (old && (!S_ISREG(old->st_mode) || ::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0)) return false;
   const Outcome outcome = ReplaceByNewFile(*target, old, bytes);
   if (outcome == Outcome::DirectoryRefuses && old) return ReplaceWhereItLies(*target, bytes);
   return outcome == Outcome::Done;

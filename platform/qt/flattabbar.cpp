@@ -10,7 +10,9 @@
 namespace morlan {
 namespace {
 
-constexpr int kHorizontalMargin = 12, kVerticalMargin = 6, kDotRoom = 12, kCloseRoom = 22, kLineWidth = 2;
+constexpr int kHorizontalMargin = 12, kVerticalMargin = 6, kDotRoom = 12, kCloseRoom = 32, kLineWidth = 2;
+// Widths of texts are rounded.
+constexpr int kSlack = 2, kWidestTab = 260;
 
 class CloseMark : public QAbstractButton {
  public:
@@ -70,8 +72,8 @@ void FlatTabBar::tabInserted(int index) {
 }
 
 QSize FlatTabBar::tabSizeHint(int index) const {
-  int width = fontMetrics().horizontalAdvance(WithoutMnemonic(tabText(index))) + 2 * kHorizontalMargin;
-  if (tabsClosable()) width = qMin(width + kDotRoom + kCloseRoom - kHorizontalMargin / 2, 260);
+  int width = fontMetrics().horizontalAdvance(WithoutMnemonic(tabText(index))) + 2 * kHorizontalMargin + kSlack;
+  if (tabsClosable()) width = qMin(width + kDotRoom + kCloseRoom - 3 * kHorizontalMargin / 2, kWidestTab);
   return {width, fontMetrics().height() + 2 * kVerticalMargin};
 }
 

@@ -59,7 +59,7 @@ GlyphTable::Face GlyphTable::MakeFace(const QFont& font) const {
     face.missing[byte] = !known && !face.control[byte];
     face.glyphs[byte] = known ? glyphs[index] : 0;
     const double advance =
-        known && !face.control[byte] ? advances[index].x() : metrics.horizontalAdvance(face.control[byte] ? QChar('x') : all[index]);
+        known && !face.control[byte] ? advances[index].x() : metrics.horizontalAdvance(face.control[byte] ? QChar(u'x') : all[index]);
     face.advances[byte] = std::max(1.0, advance);
   }
   return face;

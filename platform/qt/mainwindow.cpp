@@ -18,6 +18,7 @@
 #include "platform/qt/commandpanel.h"
 #include "platform/qt/editorpages.h"
 #include "platform/qt/editorview.h"
+#include "platform/qt/flatsplitter.h"
 #include "platform/qt/qtkeys.h"
 #include "platform/qt/qttext.h"
 #include "platform/qt/qtwindows.h"
@@ -99,9 +100,7 @@ void MainWindow::MakePanels() {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(new CommandPanel(frame, files, all));
-  sides_ = new QSplitter(Qt::Horizontal, all);
-  sides_->setChildrenCollapsible(false);
-  sides_->setHandleWidth(6);
+  sides_ = new FlatSplitter(Qt::Horizontal, all);
   sidePanel_ = new SidePanel(frame, files, sides_);
   sides_->addWidget(sidePanel_);
   sides_->addWidget(MakeCentre(sides_));

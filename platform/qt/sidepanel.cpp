@@ -9,6 +9,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/qt/bindings.h"
+#include "platform/qt/flatsplitter.h"
 #include "platform/qt/qttext.h"
 #include "platform/qt/rowmodel.h"
 #include "platform/qt/svgicons.h"
@@ -62,7 +63,7 @@ SidePanel::SidePanel(Morlan& frame, Files& files, QWidget* parent)
       frame_(frame),
       context_{this, files},
       path_(new PathLabel(this)),
-      lists_(new QSplitter(Qt::Vertical, this)),
+      lists_(new FlatSplitter(Qt::Vertical, this)),
       panelWatch_(frame.Menadzerplikow,
                   [this](Aspect aspect) {
                     if (aspect == Aspect::Visible) setVisible(frame_.Menadzerplikow.Visible());
@@ -79,7 +80,6 @@ SidePanel::SidePanel(Morlan& frame, Files& files, QWidget* parent)
   lists_->addWidget(AddList(frame.Dirlist, QStringLiteral("Katalogi")));
   lists_->addWidget(AddList(frame.Filelist, QStringLiteral("Pliki")));
   lists_->setStretchFactor(1, 2);
-  lists_->setChildrenCollapsible(false);
   column->addWidget(lists_, 1);
   column->addWidget(AddCombo(frame.filetypes, QStringLiteral("Typ plików")));
   ShowPath();

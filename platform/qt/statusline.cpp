@@ -21,6 +21,7 @@ StatusLine::StatusLine(StatusBar& statusBar, QWidget* parent)
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(QStringLiteral("Listwa statusu"));
+  for (std::size_t i = 0; i < shown_.size(); ++i) shown_[i] = statusBar.Panels()[i].text;
   setVisible(statusBar.Visible());
 }
 

@@ -24,7 +24,9 @@ TEST(TagForFile, GoesByTheKindOfTheFile) {
   EXPECT_EQ(TagForFile("c:\\w\\dom\\a.html", "c:\\w").close, "</A>");
 }
 
-TEST(TagForFile, AFileWithoutAnExtensionBecomesALink) { EXPECT_EQ(TagForFile("c:\\w.gif\\README", "c:\\w.gif").open, "<A HREF=\"README\">"); }
+TEST(TagForFile, AFileWithoutAnExtensionBecomesALink) {
+  EXPECT_EQ(TagForFile("c:\\w.gif\\README", "c:\\w.gif").open, "<A HREF=\"README\">");
+}
 
 }  // namespace
 }  // namespace morlan

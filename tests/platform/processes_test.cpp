@@ -9,7 +9,7 @@
 #include "platform/encoding.h"
 #include "platform/posix/filenames.h"
 #include "platform/posix/files.h"
-#include "tests/platform/throwawayfolder.h"
+#include "tests/platform/nativefolder.h"
 
 namespace morlan {
 namespace {
@@ -19,7 +19,7 @@ class PosixProcessesTest : public testing::Test {
   PosixProcessesTest() : processes(files) {
     files.ChangeDirectory(P());
     // Writes its arguments, one a line, then where it runs.
-    PutProgram("Program.sh", "#!/bin/sh\nfor a in \"$@\"; do echo \"$a\"; done > out.tmp\npwd >> out.tmp\nmv out.tmp out\n");
+    PutProgram("Program.sh", "#!/bin/sh\nfor a in \"$@\"; do printf '%s\\n' \"$a\"; done > out.tmp\npwd >> out.tmp\nmv out.tmp out\n");
   }
 
   std::string P(std::string_view name = "") const { return PathFromNative(folder.path.string()) + "\\" + std::string(name); }
@@ -32,7 +32,7 @@ class PosixProcessesTest : public testing::Test {
     return folder.Get("out");
   }
 
-  ThrowAwayFolder folder;
+  NativeFolder folder;
   PosixFiles files;
   PosixProcesses processes;
 };

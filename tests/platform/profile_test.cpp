@@ -7,7 +7,7 @@
 #include "platform/encoding.h"
 #include "platform/posix/environment.h"
 #include "platform/posix/filenames.h"
-#include "tests/platform/throwawayfolder.h"
+#include "tests/platform/nativefolder.h"
 
 namespace morlan {
 namespace {
@@ -41,7 +41,7 @@ class ProfileTest : public testing::Test {
     folder.Put("data/Listy/Tags.lst", "<B>..</B>\r\n");
     folder.Put("data/icons/open.svg", "<svg/>");
   }
-  ThrowAwayFolder folder;
+  NativeFolder folder;
   ProfileFolders folders;
   std::string shipped;
 };

@@ -4,7 +4,7 @@
 #include <unistd.h>
 
 #include "platform/encoding.h"
-#include "tests/platform/throwawayfolder.h"
+#include "tests/platform/nativefolder.h"
 
 namespace morlan {
 namespace {
@@ -14,7 +14,7 @@ constexpr std::string_view kVerb = "htmlfile\\shell\\Morlan7";
 class FileRegistryTest : public testing::Test {
  protected:
   FileRegistryTest() : registry((folder.path / "rejestr").string()) {}
-  ThrowAwayFolder folder;
+  NativeFolder folder;
   FileRegistry registry;
 };
 

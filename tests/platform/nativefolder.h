@@ -8,18 +8,18 @@
 
 namespace morlan {
 
-class ThrowAwayFolder {
+class NativeFolder {
  public:
-  ThrowAwayFolder() {
+  NativeFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "morlan7-test-XXXXXX").string();
     path = ::mkdtemp(name.data());
   }
-  ~ThrowAwayFolder() {
+  ~NativeFolder() {
     std::error_code ignored;
     std::filesystem::remove_all(path, ignored);
   }
-  ThrowAwayFolder(const ThrowAwayFolder&) = delete;
-  ThrowAwayFolder& operator=(const ThrowAwayFolder&) = delete;
+  NativeFolder(const NativeFolder&) = delete;
+  NativeFolder& operator=(const NativeFolder&) = delete;
 
   std::string Put(const std::string& name, const std::string& bytes) const {
     std::ofstream(path / name, std::ios::binary) << bytes;

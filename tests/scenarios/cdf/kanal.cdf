@@ -1,0 +1,2 @@
+<CHANNEL>
+</CHANNEL>
