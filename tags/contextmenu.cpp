@@ -128,6 +128,7 @@ class ContextMenu {
 
   void ShowTagEntries(Menu& menu, const TagOffer& offer, std::string_view caption) {
     menu.SetVisible(kNameEntry, true);
+    menu.SetEnabled(kNameEntry, false);  // it only names the tag
     menu.SetVisible(kEditEntry, HasTagEditor(program_, caption));
     for (const OfferedAction& offered : offer.actions) {
       if (shown_.size() == kActionEntries.size() || !program_.tagState.targetActions.contains(offered.action)) continue;

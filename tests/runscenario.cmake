@@ -11,6 +11,14 @@ if(IS_DIRECTORY ${here}/${name})
   file(COPY ${here}/${name}/ DESTINATION ${work})
 endif()
 
+# Settings of its own, or those that all share.
+set(settings ${here}/${name}.ini)
+if(NOT EXISTS ${settings})
+  set(settings ${here}/Morlan7.ini)
+endif()
+file(MAKE_DIRECTORY ${work}-profile/windows)
+configure_file(${settings} ${work}-profile/windows/Morlan7.ini COPYONLY)
+
 set(options --now 1998-05-04T12:30:00)
 file(STRINGS ${SCENARIO} line REGEX "^# options: " LIMIT_COUNT 1)
 if(line)

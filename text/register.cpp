@@ -40,6 +40,7 @@ void RegisterCommands(Program& program) {
 void RegisterText(Program& program) {
   program.passes.decode = [&program](std::string text, std::string_view path) { return DecodeCharSet(program, std::move(text), path); };
   program.passes.markCharset = MarkCharSet;
+  program.tagState.targetActions[TargetAction::JumpToLabel] = [&program](const std::string& label) { GoToLabel(program, label); };
   RegisterCommands(program);
 }
 

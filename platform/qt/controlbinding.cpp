@@ -57,6 +57,7 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) control_.UserLeaves();
   }
+  if (event->type() == QEvent::ContextMenu && control_.OnRightClick) return control_.UserRightClicks();
   return event->type() == QEvent::KeyPress && SwallowsKey(event);
 }
 

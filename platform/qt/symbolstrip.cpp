@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/qt/qtkeys.h"
 #include "platform/qt/qttext.h"
 
 namespace morlan {
@@ -157,6 +158,7 @@ QToolButton* SymbolStrip::MakeButton(Button& button) {
     widget->setText(symbol.isEmpty() ? QStringLiteral("·") : symbol);
     widget->setEnabled(button.Enabled());
     widget->setAccessibleName(QStringLiteral("Symbol %1").arg(symbol));
+    widget->setToolTip(ToQt(button.ToolTip()));
   };
   show();
   watches_.push_back(std::make_unique<ControlWatch>(button, [show](Aspect) { show(); }));
@@ -169,6 +171,20 @@ void SymbolStrip::paintEvent(QPaintEvent*) {
   painter.drawLine(0, 0, width(), 0);
 }
 
-bool SymbolStrip::eventFilter(QObject* watched, QEvent* event) { return QWidget::eventFilter(watched, event); }
+// The right mouse button and the menu key change what a button of the user's own inserts.
+bool SymbolStrip::eventFilter(QObject* watched, QEvent* event) {
+  const auto place = std::find(buttons_.begin(), buttons_.end(), watched);
+  if (place == buttons_.end()) return false;
+  Button& button = *frame_.Chars2[static_cast<std::size_t>(place - buttons_.begin())];
+  if (event->type() == QEvent::ContextMenu) {
+    if (static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard) button.UserRightClicks();
+    return true;
+  }
+  if (event->type() != QEvent::KeyPress || !button.OnKeyDown) return false;
+  KeyPress press = ReadKey(*static_cast<QKeyEvent*>(event)).press;
+  if (press.code == 0) return false;
+  button.OnKeyDown(press);
+  return press.code == 0;
+}
 
 }  // namespace morlan

@@ -147,9 +147,9 @@ struct Hints : Document {
 
 TEST_F(Hints, TheListOfATagIsShownWhileItIsTyped) {
   TEditor& document = test.OpenText("");
-  Type(document, "<IMG ");
-  EXPECT_FALSE(document.FastHelpC.Visible()) << "the blank is not in the text yet when the name is read";
-  Type(document, "x");
+  Type(document, "<IMG");
+  EXPECT_FALSE(document.FastHelpC.Visible()) << "the last letter is not in the text yet when the name is read";
+  Type(document, " ");
   EXPECT_TRUE(document.FastHelpC.Visible());
   EXPECT_EQ(document.FastHelpC.ListCount(), 2u);
   const int before = filled;

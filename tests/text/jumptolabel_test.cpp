@@ -37,7 +37,7 @@ TEST(LabelsOf, TellsWhereTheTagLies) {
   EXPECT_EQ(labels[0].length, 12u);
 }
 
-TEST(LabelsOf, UnclosedTagsAreNoMatterOfSquares) {
+TEST(LabelsOf, UnclosedTagsTakeLinearTime) {
   std::string text = "<BODY>";
   for (int i = 0; i < 100000; ++i) text += "<A NAME=x ";
   EXPECT_EQ(LabelsOf(text).size(), 0u);
@@ -88,6 +88,11 @@ TEST_F(Jump, ALabelIsFoundByItsNameWithoutRegardToCase) {
   EXPECT_EQ(editor.SelStart(), 18u);
   EXPECT_FALSE(GoToLabel(test.program, "trzy"));
   EXPECT_EQ(editor.SelStart(), 18u);
+}
+
+TEST_F(Jump, TheContextMenusJumpGoesToTheLabel) {
+  test.program.tagState.targetActions.at(TargetAction::JumpToLabel)("dwa");
+  EXPECT_EQ(editor.SelText(), "<A NAME=dwa>");
 }
 
 }  // namespace
