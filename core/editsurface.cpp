@@ -23,7 +23,10 @@ MlnEditor::~MlnEditor() = default;
 
 void MlnEditor::SetText(std::string text) {
   lines_.SetText(text);
-  styles_.Assign(std::vector<Style>(text.size(), kPlain));
+  std::vector<Style> styles;
+  styles.reserve(styles_.RoomFor(text.size()));
+  styles.resize(text.size(), kPlain);
+  styles_.Assign(std::move(styles));
   text_.Assign(std::move(text));
   Modified = false;
   selStart_ = selLength_ = editedFrom_ = editedTo_ = 0;

@@ -20,7 +20,15 @@ class GapBuffer {
   const Value* Front() const { return block_.data(); }
   const Value* Back() const { return block_.data() + gapStart_ + GapLength(); }
 
-  // The sequence becomes the given one, without a gap.
+  // The room that a sequence takes with its gap. It grows with the sequence, so that many small insertions cost a move of
+  // the whole only now and then; the gap stays a small part of it, so that memory does.
+  static std::size_t RoomFor(std::size_t size) {
+    constexpr std::size_t kSmallestGap = 1024;
+    return size + std::max(kSmallestGap, size / 32);
+  }
+
+  // The sequence becomes the given one, without a gap. A container that has room for one by its capacity spares the first
+  // edit a copy of the whole.
   void Assign(Container elements) {
     block_ = std::move(elements);
     size_ = gapStart_ = block_.size();
@@ -78,12 +86,10 @@ class GapBuffer {
     gapStart_ = offset;
   }
 
-  // Widens the gap so that `inserted` elements fit in. The room grows with the sequence, so that many small insertions
-  // cost a move of the whole only now and then; it stays a small part of it, so that memory does.
+  // Widens the gap so that `inserted` elements fit in.
   void Grow(std::size_t inserted) {
-    constexpr std::size_t kSmallestRoom = 1024;
     const std::size_t behind = size_ - gapStart_;
-    const std::size_t wanted = size_ + inserted + std::max(kSmallestRoom, size_ / 32);
+    const std::size_t wanted = RoomFor(size_ + inserted);
     const std::size_t oldGap = GapLength();
     if (wanted <= block_.capacity()) {
       block_.resize(wanted);
