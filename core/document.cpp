@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kDocumentTag = "edytor";
 constexpr int kModifiedImage = 1;
 // Below this many characters a change of length is not worth a new text in the status line.
-constexpr std::size_t kLengthThreshold = 100;
+constexpr std::size_t kLengthThreshold = 10;
 
 // A setting that counts as switched on until it is stored otherwise.
 bool OnUnlessStored(INIFile& settings, std::string_view item, std::string_view subItem) {

@@ -136,7 +136,8 @@ void ListBox::Clear() {
 
 void ListBox::SetListIndex(int row) {
   if (selection_ == Selection::Multiple) selected_.assign(rows_.size(), false);
-  if (selection_ == Selection::Multiple && row >= 0 && row < static_cast<int>(rows_.size())) selected_[static_cast<std::size_t>(row)] = true;
+  if (selection_ == Selection::Multiple && row >= 0 && row < static_cast<int>(rows_.size()))
+    selected_[static_cast<std::size_t>(row)] = true;
   RowControl::SetListIndex(row);
 }
 
@@ -353,7 +354,9 @@ bool Tabs::UserSetsText(std::string_view text) {
   return found != tabs_.end() && UserSelects(static_cast<int>(found - tabs_.begin()));
 }
 
-ToolBar::ToolBar(Form& owner, std::string_view name, std::string_view caption) : Control(owner, name, Kind::Toolbar) { SetCaption(caption); }
+ToolBar::ToolBar(Form& owner, std::string_view name, std::string_view caption) : Control(owner, name, Kind::Toolbar) {
+  SetCaption(caption);
+}
 
 void ToolBar::Add(Item item) {
   items_.push_back(std::move(item));

@@ -61,12 +61,12 @@ class RowControl : public Control {
   void RemoveItem(std::size_t row);
   void SetRow(std::size_t row, std::string_view text);
   virtual void Clear();
-  void Sort();                                 // without regard to case
-  int IndexOf(std::string_view text) const;    // exact; -1 when absent
-  int ListFind(std::string_view text) const;   // without regard to case; -1 when absent
-  std::string SelectedRow() const;             // empty when nothing is selected
-  virtual bool UserSelects(int row);           // false when there is no such row
-  std::function<void()> OnChange;              // the user chose another row
+  void Sort();                                // without regard to case
+  int IndexOf(std::string_view text) const;   // exact; -1 when absent
+  int ListFind(std::string_view text) const;  // without regard to case; -1 when absent
+  std::string SelectedRow() const;            // empty when nothing is selected
+  virtual bool UserSelects(int row);          // false when there is no such row
+  std::function<void()> OnChange;             // the user chose another row
 
  protected:
   using Control::Control;

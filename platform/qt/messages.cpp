@@ -2,6 +2,7 @@
 
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <array>
 #include <span>
@@ -49,26 +50,44 @@ ButtonSet SetOf(Buttons buttons) {
   return {{&kOk}, 1, 0};
 }
 
-QMessageBox::Icon QtIcon(Icon icon) {
-  switch (icon) {
-    case Icon::Stop:
-      return QMessageBox::Critical;
-    case Icon::Question:
-      return QMessageBox::Question;
-    case Icon::Warning:
-      return QMessageBox::Warning;
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
+struct MessageSign {
+  Icon icon;
+  QRgb colour;
+  char16_t sign;
+};
+
+constexpr MessageSign kSigns[] = {
+    {Icon::Stop, 0xc93a3a, u'×'},
+    {Icon::Question, 0x2f6fd0, u'?'},
+    {Icon::Warning, 0xd18a1b, u'!'},
+    {Icon::Information, 0x2f6fd0, u'i'},
+};
+constexpr int kSignSize = 36;
+
+QPixmap PictureOf(const MessageSign& sign, qreal ratio) {
+  QPixmap picture(QSize(kSignSize, kSignSize) * ratio);
+  picture.setDevicePixelRatio(ratio);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(sign.colour));
+  painter.drawEllipse(QRectF(1, 1, kSignSize - 2, kSignSize - 2));
+  QFont font = painter.font();
+  font.setPixelSize(kSignSize * 2 / 3);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  painter.drawText(QRectF(0, 0, kSignSize, kSignSize), Qt::AlignCenter, QString(QChar(sign.sign)));
+  return picture;
 }
 
 }  // namespace
 
 Answer AskMessage(const MessageRequest& request, QWidget* parent) {
-  QMessageBox box(QtIcon(request.icon), ToQt(request.title), ToQt(request.text), QMessageBox::NoButton, parent);
+  QMessageBox box(QMessageBox::NoIcon, ToQt(request.title), ToQt(request.text), QMessageBox::NoButton, parent);
+  for (const MessageSign& sign : kSigns)
+    if (sign.icon == request.icon) box.setIconPixmap(PictureOf(sign, box.devicePixelRatioF()));
   box.setTextFormat(Qt::PlainText);
   const ButtonSet set = SetOf(request.buttons);
   std::array<QPushButton*, 3> buttons = {};

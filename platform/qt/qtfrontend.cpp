@@ -52,6 +52,8 @@ void QtFrontEnd::Show(Program& program) {
   windows_.SetMainWindow(window_.get());
   window_->onFirstPaint = [this] { FirstPainted(); };
   window_->show();
+  // Where no window manager gives the focus, keys would reach nobody.
+  window_->activateWindow();
 }
 
 void QtFrontEnd::Hide() {
@@ -62,6 +64,7 @@ void QtFrontEnd::Hide() {
 void QtFrontEnd::FirstPainted() {
   TraceStart();
   if (SavePictureAndQuit(*window_)) return;
+  window_->setWindowIcon(QIcon(QStringLiteral(":/icons/morlan7.svg")));
   theme_.FollowDesktop();
   ActivateFrame(*program_);
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &context_, [this](Qt::ApplicationState state) {

@@ -43,6 +43,15 @@ class QtWindows : public Windows {
  private:
   QWidget* Parent() const;
   bool BringForward(Form& form);
+  // The pointer is an arrow while a dialog is up, whatever the command that asked shows.
+  template <class Dialog>
+  auto WithPointer(Dialog dialog) {
+    const bool busy = busy_;
+    ShowBusyPointer(false);
+    auto answer = dialog();
+    ShowBusyPointer(busy || busy_);
+    return answer;
+  }
 
   Files& files_;
   WindowPlaces& places_;

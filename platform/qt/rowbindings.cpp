@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include "platform/qt/bindings.h"
 #include "platform/qt/deferred.h"
@@ -13,14 +14,26 @@
 namespace morlan {
 namespace {
 
+constexpr int kRowRoom = 4;
+
+// Rows with some air between them.
+class RoomyRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowRoom);
+  }
+};
+
 class ListBinding : public ControlBinding {
  public:
   ListBinding(ListBox& list, QListView* widget) : ControlBinding(list, widget), list_(list), widget_(widget), model_(list) {
     widget->setModel(&model_);
     widget->setUniformItemSizes(true);
+    widget->setItemDelegate(new RoomyRows(widget));
     widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget->setSelectionMode(list.IsMultiple() ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
-    widget->setMinimumHeight(widget->fontMetrics().lineSpacing() * list.HeightInRows + 8);
+    widget->setMinimumHeight((widget->fontMetrics().lineSpacing() + kRowRoom) * list.HeightInRows + 8);
     widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * 20);
     connect(widget->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this](const QItemSelection& on, const QItemSelection& off) { UserSelected(on, off); });
@@ -102,6 +115,7 @@ class ComboBinding : public ControlBinding {
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     widget->setMinimumContentsLength(box.WidthInCharacters);
     widget->setMaxVisibleItems(20);
+    widget->setItemDelegate(new RoomyRows(widget));
     if (box.IsEditable()) {
       widget->setCompleter(nullptr);
       connect(widget->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { box_.UserSets(FromQt(text)); });

@@ -277,6 +277,14 @@ TEST_F(Keys, TypedMarkupIsColouredAsTheWholeDocumentWouldBe) {
     EXPECT_EQ(document->EditedText.ColourOfStyle(document->EditedText.StyleAt(i)), whole.ColourOfStyle(whole.StyleAt(i))) << i;
 }
 
+TEST_F(Keys, AKeyMayCloseTheDocumentThatItWasPressedIn) {
+  TEditor& other = test.OpenText("1", "a.html");
+  Open("ab");
+  Press("Ctrl+W");
+  EXPECT_EQ(test.program.ActiveDocument, &other);
+  EXPECT_EQ(test.program.documents.size(), 1u);
+}
+
 TEST_F(Keys, F4WithoutASheetOpensTheQuickMenu) {
   Open("a<B>b", 2);
   int menus = 0, sheets = 0;
