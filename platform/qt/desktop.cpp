@@ -7,6 +7,7 @@
 
 #include "core/morlan.h"
 #include "platform/qt/pictureofwindow.h"
+#include "platform/qt/style.h"
 
 namespace morlan {
 
@@ -33,7 +34,7 @@ void Desktop::Finish() { frontEnd_.Hide(); }
 
 void PrepareToolkit() {
   // One look on every desktop, and no search for the desktop's own style.
-  QApplication::setStyle(QStringLiteral("fusion"));
+  QApplication::setStyle(new Style);
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
 }

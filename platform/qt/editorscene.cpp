@@ -11,7 +11,7 @@ constexpr double kTextPadding = 4;             // left and right of the text
 constexpr double kMarginPadding = 6;           // left and right of the line numbers
 constexpr std::size_t kFewestDigits = 3;       // so that the margin of a short text need not widen at once
 constexpr std::size_t kRowsRoundFarPlace = 3;  // that come into the view with a place more than a page away
-constexpr double kColumnsRoundCaret = 4;       // that sideways scrolling keeps in view
+constexpr double kColumnsRoundCaret = 12;       // that sideways scrolling keeps in view
 
 }  // namespace
 

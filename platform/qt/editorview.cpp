@@ -31,6 +31,7 @@ constexpr std::size_t kContextRows = 3;                 // round a place to whic
 constexpr double kSmallestFont = 5, kLargestFont = 96;  // in points, after the zoom
 constexpr double kWheelNotch = 120;
 constexpr std::size_t kMostRectangles = 6;  // painted one by one; more are painted as one
+constexpr double kWidthStep = 16;  // columns by which the text's width grows
 constexpr int kMostSurroundingText = 512;   // characters of its line that an input method sees
 
 std::shared_ptr<TEditor> HeldDocument(const TEditor& document) {
@@ -365,7 +366,10 @@ void EditorWidget::WidenTo(const QRectF& area) {
   const double before = widest_;
   for (RowPosition row = scene_.RowAt(std::max(0.0, area.top())); row <= last && row.line < editor_.LineCount(); ++row.line)
     widest_ = std::max(widest_, scene_.Measure().Width(scene_.Rows().SpanOf(row)));
-  if (widest_ == before) return;
+  if (widest_ <= before) return;
+  // In steps, so that the bar does not change with each character that is typed into the widest line.
+  const double step = kWidthStep * scene_.Glyphs().CellWidth();
+  widest_ = std::ceil(widest_ / step) * step;
   rangesChanged_ = true;
   settle_.Ask();
 }

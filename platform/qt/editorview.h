@@ -53,6 +53,8 @@ class EditorWidget : public QAbstractScrollArea, private EditorView {
   void ShowDropPlace(std::size_t offset);
   static constexpr std::size_t kNoDrop = static_cast<std::size_t>(-1);
 
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -65,7 +67,6 @@ class EditorWidget : public QAbstractScrollArea, private EditorView {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
-  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   bool focusNextPrevChild(bool) override { return false; }  // Tab is a character
   void wheelEvent(QWheelEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override { mouse_.Press(*event); }

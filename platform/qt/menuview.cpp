@@ -3,7 +3,9 @@
 #include <QMenu>
 #include <algorithm>
 
+#include "platform/qt/menuicons.h"
 #include "platform/qt/qttext.h"
+#include "platform/qt/svgicons.h"
 
 namespace morlan {
 namespace {
@@ -38,6 +40,7 @@ void Fill(QMenu& menu, const std::vector<MenuEntry>& entries, Files& files, cons
     QAction* action = menu.addAction(CaptionOf(entry, files) + ShortcutOf(entry));
     action->setObjectName(ToQt(entry.name));
     action->setEnabled(entry.enabled);
+    action->setIcon(SvgIcon(MenuIconOf(entry.name)));
     action->setCheckable(entry.checkable || entry.checked);
     action->setChecked(entry.checked);
     QObject::connect(action, &QAction::triggered, action, [run, name = entry.name] { run(name); });

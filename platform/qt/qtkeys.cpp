@@ -79,9 +79,10 @@ bool TypesItsText(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers();
   const bool ctrl = modifiers & Qt::ControlModifier, alt = modifiers & Qt::AltModifier;
   if (modifiers & Qt::GroupSwitchModifier) return true;
-  if (ctrl && alt) return text[0].toUpper().unicode() != static_cast<char16_t>(event.key());
+  const bool ascii = text[0].unicode() <= 0x7F;
+  if (ctrl && alt) return !ascii || text[0].toUpper().unicode() != static_cast<char16_t>(event.key());
   if (ctrl) return false;
-  return !alt || text[0].unicode() > 0x7F;
+  return !alt || !ascii;
 }
 
 bool ComesFromAltGr(Qt::KeyboardModifiers modifiers) {

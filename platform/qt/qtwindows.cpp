@@ -59,6 +59,7 @@ void QtWindows::ShowModal(Form& form) {
   dialog.Build();
   dialog.setWindowModality(Qt::ApplicationModal);
   open_[&form] = &dialog;
+  const DialogTime dialogTime(*this);
   dialog.show();
   loop.exec();
   open_.erase(&form);
@@ -78,19 +79,28 @@ void QtWindows::Show(Form& form) {
   dialog->show();
 }
 
-Answer QtWindows::Message(const MessageRequest& request) { return AskMessage(request, Parent()); }
+Answer QtWindows::Message(const MessageRequest& request) {
+  const DialogTime dialogTime(*this);
+  return AskMessage(request, Parent());
+}
 
 std::optional<std::string> QtWindows::Input(std::string_view prompt, std::string_view title, std::string_view text) {
+  const DialogTime dialogTime(*this);
   return AskInput(prompt, title, text, Parent());
 }
 
-std::optional<std::string> QtWindows::AskFile(const FileRequest& request) { return AskForFile(request, files_, Parent()); }
+std::optional<std::string> QtWindows::AskFile(const FileRequest& request) {
+  const DialogTime dialogTime(*this);
+  return AskForFile(request, files_, Parent());
+}
 
 std::optional<std::string> QtWindows::AskDirectory(std::string_view title, std::string_view directory) {
+  const DialogTime dialogTime(*this);
   return AskForDirectory(title, directory, files_, Parent());
 }
 
 std::optional<Colour> QtWindows::AskColour(Colour colour) {
+  const DialogTime dialogTime(*this);
   const QColor chosen = QColorDialog::getColor(QColor(RedOf(colour), GreenOf(colour), BlueOf(colour)), Parent());
   if (!chosen.isValid()) return std::nullopt;
   return RgbColour(static_cast<std::uint8_t>(chosen.red()), static_cast<std::uint8_t>(chosen.green()),
@@ -98,6 +108,7 @@ std::optional<Colour> QtWindows::AskColour(Colour colour) {
 }
 
 std::optional<FontChoice> QtWindows::AskFont(const FontChoice& font) {
+  const DialogTime dialogTime(*this);
   bool accepted = false;
   const QFont chosen = QFontDialog::getFont(&accepted, ToQtFont(font), Parent());
   if (!accepted) return std::nullopt;
@@ -116,6 +127,7 @@ void QtWindows::Yield() {
 }
 
 void QtWindows::ShowBusyPointer(bool busy) {
+  ++pointerCalls_;
   if (busy_ == busy) return;
   busy_ = busy;
   if (busy)

@@ -1,6 +1,7 @@
 // Forms, questions and the common dialogs on the desktop.
 #pragma once
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
@@ -43,15 +44,24 @@ class QtWindows : public Windows {
  private:
   QWidget* Parent() const;
   bool BringForward(Form& form);
-  // The pointer is an arrow while a dialog is up, whatever the command that asked shows.
-  template <class Dialog>
-  auto WithPointer(Dialog dialog) {
-    const bool busy = busy_;
-    ShowBusyPointer(false);
-    auto answer = dialog();
-    ShowBusyPointer(busy || busy_);
-    return answer;
-  }
+  // While a dialog is up the pointer is an arrow, whatever the command that asks shows; behind it the window that asked
+  // has the keys again, even where no window manager sees to that.
+  class DialogTime {
+   public:
+    explicit DialogTime(QtWindows& windows) : windows_(windows), busy_(windows.busy_) {
+      windows_.ShowBusyPointer(false);
+      calls_ = windows_.pointerCalls_;
+    }
+    ~DialogTime() {
+      if (QWidget* parent = QApplication::activeWindow() ? nullptr : windows_.Parent()) parent->activateWindow();
+      if (busy_ && windows_.pointerCalls_ == calls_) windows_.ShowBusyPointer(true);
+    }
+
+   private:
+    QtWindows& windows_;
+    bool busy_;
+    unsigned calls_ = 0;
+  };
 
   Files& files_;
   WindowPlaces& places_;
@@ -60,6 +70,7 @@ class QtWindows : public Windows {
   QElapsedTimer sinceYield_;
   int yields_ = 0;
   bool busy_ = false;
+  unsigned pointerCalls_ = 0;
 };
 
 }  // namespace morlan

@@ -79,8 +79,8 @@ SidePanel::SidePanel(Morlan& frame, Files& files, QWidget* parent)
   column->addLayout(place);
   lists_->addWidget(AddList(frame.Dirlist, QStringLiteral("Katalogi")));
   lists_->addWidget(AddList(frame.Filelist, QStringLiteral("Pliki")));
-  lists_->setStretchFactor(1, 1);
-  lists_->setSizes({1, 2});
+  lists_->setStretchFactor(0, 1);
+  lists_->setStretchFactor(1, 2);
   column->addWidget(lists_, 1);
   column->addWidget(AddCombo(frame.filetypes, QStringLiteral("Typ plików")));
   ShowPath();

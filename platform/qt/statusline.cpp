@@ -10,6 +10,7 @@ namespace morlan {
 namespace {
 
 constexpr int kMargin = 10, kPanelWidthInCharacters = 13, kVerticalMargin = 4;
+constexpr int kMessageMilliseconds = 100;
 
 }  // namespace
 
@@ -41,7 +42,15 @@ void StatusLine::Changed(Aspect aspect) {
     if (statusBar_.Panels()[i].text == shown_[i]) continue;
     shown_[i] = statusBar_.Panels()[i].text;
     update(AreaOf(i));
+    if (i == 0) ShowMessageNow();
   }
+}
+
+// A message stands in front of the work that it tells of, so it cannot wait for the work's end; a running count can.
+void StatusLine::ShowMessageNow() {
+  if (!isVisible() || (sinceMessage_.isValid() && sinceMessage_.elapsed() < kMessageMilliseconds)) return;
+  sinceMessage_.start();
+  repaint(AreaOf(0));
 }
 
 void StatusLine::paintEvent(QPaintEvent* event) {

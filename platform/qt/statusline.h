@@ -1,6 +1,7 @@
 // The status line. It paints its panels itself, so that a change of one costs next to nothing while a key is held down.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QWidget>
 #include <vector>
 
@@ -20,10 +21,12 @@ class StatusLine : public QWidget {
 
  private:
   void Changed(Aspect aspect);
+  void ShowMessageNow();
   QRect AreaOf(std::size_t panel) const;
 
   StatusBar& statusBar_;
   std::vector<std::string> shown_;
+  QElapsedTimer sinceMessage_;
   ControlWatch watch_;
 };
 

@@ -39,12 +39,15 @@ void PrintEntries(Session& session, const std::vector<MenuEntry>& entries, bool 
   }
 }
 
-// The menus whose entries a person could pick now: those of the active document, or the frame's own small one.
-std::vector<const Menu*> MenusInReach(Session& session, const Menu* popUp) {
-  Program& program = session.program();
-  if (!program.ActiveDocument) return {&program.frame().menu};
-  const TEditor& document = *program.ActiveDocument;
-  return popUp ? std::vector{popUp, &document.menu, &document.xmnm_editpopup} : std::vector{&document.menu, &document.xmnm_editpopup};
+// The menus of the window: those of the active document or the frame's own small one, and the pop-up that is open. The
+// entries of the document's pop-up can be picked at any time; where the menu bar has the same entry, that one counts.
+Reachable ReachableNow(Session& session, const Menu* popUp, std::string_view canonicalName) {
+  const TEditor* document = session.program().ActiveDocument;
+  if (!document) return ReachableIn(session.program().frame().menu.Entries(), canonicalName);
+  const Reachable inBar = ReachableIn(document->menu.Entries(), canonicalName);
+  const Reachable inPopUp = popUp ? ReachableIn(popUp->Entries(), canonicalName) : Reachable::Absent;
+  const Reachable inWindow = std::max(inBar, inPopUp);
+  return inWindow == Reachable::Absent ? ReachableIn(document->xmnm_editpopup.Entries(), canonicalName) : inWindow;
 }
 
 // An entry of the menu bar that goes with the last document.
@@ -66,9 +69,7 @@ Fault Toolbar(Session& session, const Words& words) {
 Fault PickMenu(Session& session, const Words& words) {
   const Menu* popUp = std::exchange(session.popUp, nullptr);
   const std::string name = FromUtf8(words[1]);
-  Reachable reachable = Reachable::Absent;
-  for (const Menu* menu : MenusInReach(session, popUp))
-    reachable = std::max(reachable, ReachableIn(menu->Entries(), CommandTable::Canonical(name)));
+  const Reachable reachable = ReachableNow(session, popUp, CommandTable::Canonical(name));
   if (reachable == Reachable::Hidden) return "the menu entry " + words[1] + " is hidden";
   if (reachable == Reachable::Disabled) return "the menu entry " + words[1] + " is disabled";
   if (reachable == Reachable::Absent && !session.program().ActiveDocument && BelongsToDocuments(name)) return "no document is open";

@@ -1,0 +1,56 @@
+#include "platform/qt/style.h"
+
+#include <QStyleOption>
+
+namespace morlan {
+namespace {
+
+// Outlines are drawn somewhat darker than the window, which nobody can see on a dark one: while one is drawn, the
+// option says that the window is this light.
+constexpr QRgb kWindowOfDarkOutlines = 0x757b85;
+
+class VisibleOutline {
+ public:
+  explicit VisibleOutline(const QStyleOption& option) : option_(const_cast<QStyleOption&>(option)), palette_(option.palette) {
+    if (palette_.color(QPalette::Window).lightness() < 128) option_.palette.setColor(QPalette::Window, QColor(kWindowOfDarkOutlines));
+  }
+  ~VisibleOutline() { option_.palette = palette_; }
+  VisibleOutline(const VisibleOutline&) = delete;
+  VisibleOutline& operator=(const VisibleOutline&) = delete;
+
+ private:
+  QStyleOption& option_;
+  QPalette palette_;
+};
+
+constexpr QStyle::PrimitiveElement kOutlined[] = {
+    QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox,  QStyle::PE_IndicatorRadioButton,
+    QStyle::PE_Frame,         QStyle::PE_PanelButtonCommand,
+};
+
+}  // namespace
+
+Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
+
+// The pictures on the buttons of the toolkit's dialogs look dated.
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+  for (const PrimitiveElement outlined : kOutlined) {
+    if (element != outlined) continue;
+    const VisibleOutline visible(*option);
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const {
+  if (control != CC_ComboBox && control != CC_SpinBox) return QProxyStyle::drawComplexControl(control, option, painter, widget);
+  const VisibleOutline visible(*option);
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+}  // namespace morlan

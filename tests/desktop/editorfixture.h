@@ -1,0 +1,90 @@
+// A document in a real text view, in a window that is shown.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointF>
+#include <QString>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "core/document.h"
+#include "platform/qt/editorview.h"
+#include "tests/support/testprogram.h"
+
+namespace morlan {
+
+class EditorTest : public testing::Test {
+ protected:
+  void Open(std::string_view text, std::string_view font = "DejaVu Sans Mono") {
+    document = &program.OpenText(text);
+    document->EditedText.SetFont({.name = std::string(font)});
+    view = std::make_unique<EditorWidget>(*document);
+    view->resize(640, 400);
+    view->show();
+    view->activateWindow();
+    view->setFocus();
+    Settle();
+  }
+  MlnEditor& editor() const { return document->EditedText; }
+  std::string Text() const { return editor().Text(); }
+  static void Settle() {
+    for (int round = 0; round < 3; ++round) QApplication::processEvents();
+  }
+
+  void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {}) const {
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(view.get(), &down);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+    QApplication::sendEvent(view.get(), &up);
+  }
+  void Type(const QString& text) const {
+    for (const QChar character : text) Press(character.toUpper().unicode(), Qt::NoModifier, QString(character));
+  }
+  // Whether the text takes the key before a menu or another shortcut can.
+  bool Overrides(int key, Qt::KeyboardModifiers modifiers, const QString& text = {}) const {
+    QKeyEvent event(QEvent::ShortcutOverride, key, modifiers, text);
+    event.ignore();
+    QApplication::sendEvent(view.get(), &event);
+    return event.isAccepted();
+  }
+
+  // The middle of the character's left edge, in pixels of the viewport.
+  QPointF PointOf(std::size_t offset) const { return view->Scene().CaretArea(offset, 0).center(); }
+  void Mouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button = Qt::LeftButton,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+    const QPointF global = view->viewport()->mapToGlobal(point);
+    QMouseEvent event(type, point, global, type == QEvent::MouseMove ? Qt::NoButton : button, held, modifiers);
+    QApplication::sendEvent(view->viewport(), &event);
+  }
+  void Click(std::size_t offset, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    Mouse(QEvent::MouseButtonPress, PointOf(offset), button, modifiers);
+    Mouse(QEvent::MouseButtonRelease, PointOf(offset), button, modifiers);
+  }
+  void DragMouse(std::size_t from, std::size_t to) const {
+    Mouse(QEvent::MouseButtonPress, PointOf(from));
+    Mouse(QEvent::MouseMove, PointOf(to));
+    Mouse(QEvent::MouseButtonRelease, PointOf(to));
+  }
+  QImage Picture() const { return view->viewport()->grab().toImage(); }
+  // How many pixels of the character's cell have the colour.
+  int Pixels(const QImage& picture, std::size_t offset, const QColor& colour) const {
+    const QRectF left = view->Scene().CaretArea(offset, 1), right = view->Scene().CaretArea(offset + 1, 1);
+    int count = 0;
+    for (int y = static_cast<int>(left.top()); y < static_cast<int>(left.bottom()); ++y)
+      for (int x = static_cast<int>(left.left()); x < static_cast<int>(right.left()); ++x) count += picture.pixelColor(x, y) == colour;
+    return count;
+  }
+
+  TestProgram program;
+  TEditor* document = nullptr;
+  std::unique_ptr<EditorWidget> view;
+};
+
+}  // namespace morlan

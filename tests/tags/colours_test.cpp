@@ -1,0 +1,55 @@
+#include "tags/colours.h"
+
+#include <gtest/gtest.h>
+
+namespace morlan {
+namespace {
+
+TEST(Colours, HexPairsAreReadInAnyCaseAndUnchecked) {
+  EXPECT_EQ(HexPairToByte("00"), 0);
+  EXPECT_EQ(HexPairToByte("7f"), 0x7F);
+  EXPECT_EQ(HexPairToByte("FF"), 0xFF);
+  EXPECT_EQ(HexPairToByte("1G"), 0x20);
+  EXPECT_EQ(HexPairToByte(""), 0);
+}
+
+TEST(Colours, DigitsReadRedFirst) {
+  EXPECT_EQ(HexToRgb("FF8001"), RgbColour(0xFF, 0x80, 0x01));
+  EXPECT_EQ(HexToRgb(""), 0u);
+}
+
+TEST(Colours, ShortNumbersHaveNoughtsInFront) {
+  EXPECT_EQ(HexToLong("FF0000"), 0xFF0000u);
+  EXPECT_EQ(HexToLong("80"), 0x80u);
+  EXPECT_EQ(HexToLong("8080"), 0x8080u);
+}
+
+TEST(Colours, AreWrittenRedFirst) {
+  EXPECT_EQ(ColorToHex(RgbColour(0xFF, 0x80, 0x01)), "FF8001");
+  EXPECT_EQ(ColorToHex(0), "000000");
+  EXPECT_EQ(HexToRgb(ColorToHex(0x00ABCDEF)), 0x00ABCDEFu);
+}
+
+struct NamedColourRow {
+  const char* name;
+  Colour value;
+};
+
+// Blue in the low byte: the numbers are those of the digits, not of the colours.
+TEST(Colours, NamedColoursHaveRedAndBlueExchangedOnPurpose) {
+  constexpr NamedColourRow kRows[] = {
+      {"black", 0x000000},  {"green", 0x008000},  {"silver", 0xC0C0C0},  {"lime", 0x00FF00}, {"gray", 0x808080}, {"olive", 0x808000},
+      {"white", 0xFFFFFF},  {"yellow", 0xFFFF00}, {"maroon", 0x800000},  {"navy", 0x000080}, {"red", 0xFF0000},  {"blue", 0x0000FF},
+      {"purple", 0x800080}, {"teal", 0x008080},   {"fuchsia", 0xFF00FF}, {"aqua", 0x00FFFF},
+  };
+  for (const NamedColourRow& row : kRows) EXPECT_EQ(ColorNameToValue(row.name), row.value) << row.name;
+}
+
+TEST(Colours, NamesAreReadInAnyCase) { EXPECT_EQ(ColorNameToValue("Red"), ColorNameToValue("red")); }
+
+TEST(Colours, DigitsAreNotExchanged) { EXPECT_EQ(ColorNameToValue("FF0000"), RgbColour(0xFF, 0, 0)); }
+
+TEST(Colours, ANumberSignMovesThePairsOnPurpose) { EXPECT_NE(ColorNameToValue("#FF0000"), RgbColour(0xFF, 0, 0)); }
+
+}  // namespace
+}  // namespace morlan
