@@ -1,5 +1,6 @@
 #include "platform/qt/editorview.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QFontDatabase>
@@ -20,6 +21,7 @@
 #include "core/defs.h"
 #include "core/document.h"
 #include "core/keyboard.h"
+#include "platform/qt/editoraccessible.h"
 #include "platform/qt/outsidetext.h"
 #include "platform/qt/qtkeys.h"
 #include "platform/qt/qttext.h"
@@ -78,6 +80,7 @@ EditorWidget::EditorWidget(TEditor& document, QWidget* parent)
   viewport()->setMouseTracking(true);
   viewport()->setAcceptDrops(true);
   connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this](int action) { MoveWrappedBar(action); });
+  RegisterEditorAccessibility();
   painter_.SetColours(EditorColours::From(palette()));
   TakeFont();
   shown_ = PresentSelection();
@@ -312,6 +315,9 @@ void EditorWidget::ShowSelectionChange() {
   UpdateLines(std::min(before.caretLine, editor_.LineCount() - 1), std::min(before.caretLine, editor_.LineCount() - 1));
   UpdateLines(now.caretLine, now.caretLine);
   RestartCaret();
+  if (!QAccessible::isActive()) return;
+  QAccessibleTextCursorEvent moved(this, static_cast<int>(now.caret));
+  QAccessible::updateAccessibility(&moved);
 }
 
 void EditorWidget::Settle(std::size_t context) {

@@ -25,7 +25,8 @@ class VisibleOutline {
 
 constexpr QStyle::PrimitiveElement kOutlined[] = {
     QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox,  QStyle::PE_IndicatorRadioButton,
-    QStyle::PE_Frame,         QStyle::PE_PanelButtonCommand,
+    QStyle::PE_Frame,         QStyle::PE_PanelButtonCommand, QStyle::PE_FrameMenu,
+    QStyle::PE_PanelMenu,
 };
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -71,6 +73,16 @@ class EditorTest : public testing::Test {
     Mouse(QEvent::MouseButtonPress, PointOf(from));
     Mouse(QEvent::MouseMove, PointOf(to));
     Mouse(QEvent::MouseButtonRelease, PointOf(to));
+  }
+  // Drags something over the character and lets it fall where that is accepted.
+  bool Drop(const QMimeData& data, std::size_t offset) const {
+    QDragEnterEvent enter(PointOf(offset).toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(view->viewport(), &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent drop(PointOf(offset), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view->viewport(), &drop);
+    return drop.isAccepted();
   }
   QImage Picture() const { return view->viewport()->grab().toImage(); }
   // How many pixels of the character's cell have the colour.

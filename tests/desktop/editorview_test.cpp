@@ -1,8 +1,8 @@
 #include "platform/qt/editorview.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QMimeData>
@@ -188,8 +188,7 @@ TEST_F(EditorTest, TextDroppedFromElsewhereIsInsertedWhereItFalls) {
   Open("raz dwa");
   QMimeData data;
   data.setText(QStringLiteral("<b>\nż"));
-  QDropEvent drop(PointOf(4), Qt::CopyAction, &data, Qt::LeftButton, kNone);
-  QApplication::sendEvent(view->viewport(), &drop);
+  EXPECT_TRUE(Drop(data, 4));
   EXPECT_EQ(Text(), "raz <b>\r\nżdwa"_pl);
   EXPECT_EQ(document->UNDO.Count(), 1u);
 }
@@ -199,10 +198,7 @@ TEST_F(EditorTest, FilesOfOtherProgramsAreLeftToTheWindow) {
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/a.gif"))});
   data.setText(QStringLiteral("file:///tmp/a.gif"));
-  QDragEnterEvent enter(PointOf(1).toPoint(), Qt::CopyAction, &data, Qt::LeftButton, kNone);
-  enter.ignore();
-  QApplication::sendEvent(view->viewport(), &enter);
-  EXPECT_FALSE(enter.isAccepted());
+  EXPECT_FALSE(Drop(data, 1));
   EXPECT_EQ(Text(), "raz");
 }
 
@@ -211,8 +207,7 @@ TEST_F(EditorTest, AFileOfOurOwnListBecomesATagWhereItFalls) {
   QMimeData data;
   data.setData(QStringLiteral("application/x-morlan7-file"),
                QByteArray::fromStdString((program.folder.path / "work" / "rys" / "a.gif").string()));
-  QDropEvent drop(PointOf(4), Qt::CopyAction, &data, Qt::LeftButton, kNone);
-  QApplication::sendEvent(view->viewport(), &drop);
+  EXPECT_TRUE(Drop(data, 4));
   EXPECT_EQ(Text(), "raz <IMG SRC=\"rys/a.gif\">dwa");
 }
 
@@ -415,6 +410,23 @@ TEST_F(EditorTest, HintsAreShownBesideTheCaret) {
   EXPECT_EQ(Text(), "<IMG SRC");
   EXPECT_FALSE(document->FastHelpC.Visible());
   EXPECT_TRUE(view->hasFocus());
+}
+
+TEST_F(EditorTest, AssistiveTechnologyReadsTextCaretAndSelection) {
+  Open("zażółć gęślą"_pl);
+  editor().Select(7, 5);
+  QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(view.get());
+  ASSERT_NE(accessible, nullptr);
+  EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Tekst dokumentu"));
+  QAccessibleTextInterface* const text = accessible->textInterface();
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->text(0, 6), QStringLiteral("zażółć"));
+  EXPECT_EQ(text->cursorPosition(), 12);
+  int start = 0, end = 0;
+  text->selection(0, &start, &end);
+  EXPECT_EQ(start, 7);
+  EXPECT_EQ(end, 12);
+  EXPECT_EQ(text->offsetAtPoint(text->characterRect(3).center()), 3);
 }
 
 }  // namespace

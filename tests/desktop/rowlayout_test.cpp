@@ -35,10 +35,11 @@ class Rows : public testing::TestWithParam<const char*> {
     rows.SetGlyphs(&glyphs);
     editor.AttachView(&listener);
   }
+  // Rows are as wide as that many characters "M".
   void Wrap(std::string_view text, double columns) {
     editor.SetWordWrap(true);
     editor.SetText(std::string(text));
-    rows.SetPage(columns * glyphs.CellWidth(), 10);
+    rows.SetPage(columns * glyphs.Normal().advances['M'], 10);
   }
   std::vector<std::string> Shown(EditorRows& from) {
     std::vector<std::string> shown;
@@ -84,10 +85,14 @@ TEST_P(Rows, AWordLongerThanARowIsCut) {
 }
 
 TEST_P(Rows, EachRowFitsAndBlanksHangOver) {
-  Wrap("raz dwa trzy cztery piec szesc siedem osiem dziewiec dziesiec jedenascie", 12);
-  const auto shown = Shown(rows);
-  EXPECT_GT(shown.size(), 4u);
-  for (const std::string& row : shown) EXPECT_NE(row.front(), ' ') << row;
+  Wrap("raz dwa trzy cztery piec szesc siedem osiem dziewiec dziesiec jedenascie", 11);
+  const double width = 11 * glyphs.Normal().advances['M'];
+  EXPECT_GT(rows.RowsOfLine(0), 3u);
+  for (std::size_t row = 0; row < rows.RowsOfLine(0); ++row) {
+    const RowSpan span = rows.SpanOf({0, row});
+    EXPECT_NE(editor.At(span.start), ' ') << row;
+    EXPECT_LE(rows.Measure().Place(span, span.endsLine ? span.end : span.end - 1), width) << row;
+  }
 }
 
 TEST_P(Rows, TheEndOfAWrappedRowLiesInFrontOfItsLastBlank) {
@@ -119,7 +124,7 @@ TEST_P(Rows, EditsKeepRowsAsIfComputedAnew) {
     editor.SetSelText(pieces[upTo(6)]);
     EditorRows fresh(editor);
     fresh.SetGlyphs(&glyphs);
-    fresh.SetPage(24 * glyphs.CellWidth(), 10);
+    fresh.SetPage(24 * glyphs.Normal().advances['M'], 10);
     ASSERT_EQ(Shown(rows), Shown(fresh)) << edit;
   }
 }

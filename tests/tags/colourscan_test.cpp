@@ -43,7 +43,7 @@ TEST(ColourScan, PaintsValuesBetweenTheirQuotesOrUpToABlank) {
       {"<A B=x>", "tttttvt"},
       {"<A B=\"\" C=d>", "ttttttttttvt"},
       {"<A B= C=d>", "ttttttttvt"},
-      {"<A B='x y'>", "tttttvvttttt"},
+      {"<A B='x y'>", "tttttvvtttt"},
       {"<A B=\"x>y", "ttttttvt."},
       {"<A =>", "ttttt"},
       {"<A =\">", "tttttt"},
@@ -85,7 +85,7 @@ TEST(ColourScan, KeywordsInCommentsTakeTheirBlankAlong) {
       {"<!-- new -->", "cccccKKKKcc."},
       {"<!-- NeW -->", "cccccKKKKcc."},
       {"<!--new-->", "ccccccccc."},
-      {"<!-- new\t-->", "cccccccccccc"},
+      {"<!-- new\t-->", "ccccccccccc."},
       {"new <b>", "....ttt"},
   });
 }

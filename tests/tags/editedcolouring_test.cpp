@@ -106,11 +106,11 @@ TEST(EditedColouring, ACommentThatIsOpenedRunsUpToTheNextEnd) {
   EXPECT_EQ(typist.Paint(), typist.PaintOfRun());
 }
 
-// A whole run would leave all that follows plain; the colours that are there stay instead.
+// A whole run would leave all that follows plain; here only the tag that the opening ran into on the way turns plain.
 TEST(EditedColouring, AnOpenCommentDoesNotTakeTheColoursBehindItAway) {
   Typist typist("a <b>c</b>");
   typist.Type(2, "<!-");
-  EXPECT_EQ(typist.Paint(), ".....ttt.tttt");
+  EXPECT_EQ(typist.Paint(), ".........tttt");
   EXPECT_EQ(typist.PaintOfRun(), ".............");
 }
 
