@@ -38,6 +38,7 @@ int Main(int& count, char** arguments) {
   PosixClock clock;
   PosixProcesses processes(files);
   Desktop desktop({files, environment, registry, processes, clock});
+  desktop.frontEnd().onEnd = [] { QCoreApplication::exit(0); };
   Program program(desktop.platform(), desktop.frontEnd());
   Assemble(program);
   desktop.Start(program);

@@ -15,8 +15,6 @@ namespace {
 
 constexpr std::string_view kDocumentTag = "edytor";
 constexpr int kModifiedImage = 1;
-// Below this many characters a change of length is not worth a new text in the status line.
-constexpr std::size_t kLengthThreshold = 10;
 
 // A setting that counts as switched on until it is stored otherwise.
 bool OnUnlessStored(INIFile& settings, std::string_view item, std::string_view subItem) {
@@ -89,8 +87,7 @@ void TEditor::editedtext_onChange() {
   if (program_.DocumentLoading) return;
   if (EditedText.Modified && !IsModified() && EditedText.Length() != 0) MarkAsModified();
   const std::size_t length = EditedText.Length();
-  const std::size_t difference = length > shownLength_ ? length - shownLength_ : shownLength_ - length;
-  if (difference > kLengthThreshold && program_.ActiveDocument == this) ShowSize();
+  if (length != shownLength_ && program_.ActiveDocument == this) ShowSize();
   ProcessLine();
 }
 

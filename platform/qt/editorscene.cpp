@@ -11,7 +11,7 @@ constexpr double kTextPadding = 4;             // left and right of the text
 constexpr double kMarginPadding = 6;           // left and right of the line numbers
 constexpr std::size_t kFewestDigits = 3;       // so that the margin of a short text need not widen at once
 constexpr std::size_t kRowsRoundFarPlace = 3;  // that come into the view with a place more than a page away
-constexpr double kColumnsRoundCaret = 12;       // that sideways scrolling keeps in view
+constexpr double kColumnsRoundCaret = 12;      // that sideways scrolling keeps in view
 
 }  // namespace
 
@@ -56,14 +56,17 @@ double EditorScene::TopOf(const RowPosition& position) {
   return static_cast<double>(rows_.Distance(top_, position, page)) * RowHeight();
 }
 
-QRectF EditorScene::AreaOfLines(std::size_t first, std::size_t last) {
-  const double top = TopOf({first, 0});
-  const double bottom = TopOf({last, rows_.RowsOfLine(last) - 1}) + RowHeight();
-  return {0, top, size_.width(), bottom - top};
+QRectF EditorScene::AreaOfRows(const RowPosition& first, const RowPosition& last) {
+  const double top = TopOf(first);
+  return {0, top, size_.width(), TopOf(last) + RowHeight() - top};
 }
 
-QRectF EditorScene::AreaBelow(std::size_t line) {
-  const double top = TopOf({line, 0});
+QRectF EditorScene::AreaOfLine(std::size_t line) { return AreaOfRows({line, 0}, {line, rows_.RowsOfLine(line) - 1}); }
+
+QRectF EditorScene::AreaOfStretch(std::size_t from, std::size_t to) { return AreaOfRows(rows_.PositionOf(from), rows_.PositionOf(to)); }
+
+QRectF EditorScene::AreaFrom(const RowPosition& first) {
+  const double top = TopOf(first);
   return {0, top, size_.width(), std::max(0.0, size_.height() - top)};
 }
 

@@ -42,9 +42,11 @@ class EditorScene {
   RowPosition LastTop();
   // Upper edge of a row; rows far outside the view count as lying just outside.
   double TopOf(const RowPosition& position);
-  // The part of the view that the lines take, from their first row to their last.
-  QRectF AreaOfLines(std::size_t first, std::size_t last);
-  QRectF AreaBelow(std::size_t line);  // from the first row of the line on
+  // The part of the view that the rows take.
+  QRectF AreaOfRows(const RowPosition& first, const RowPosition& last);
+  QRectF AreaOfLine(std::size_t line);
+  QRectF AreaOfStretch(std::size_t from, std::size_t to);  // the rows that hold the offsets
+  QRectF AreaFrom(const RowPosition& first);               // down to the lower edge
   QRectF CaretArea(std::size_t offset, double width);
   std::size_t OffsetAt(const QPointF& point);
   RowPosition RowAt(double y);

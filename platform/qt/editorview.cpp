@@ -22,6 +22,7 @@
 #include "core/document.h"
 #include "core/keyboard.h"
 #include "platform/qt/editoraccessible.h"
+#include "platform/qt/flatscrollbar.h"
 #include "platform/qt/outsidetext.h"
 #include "platform/qt/qtkeys.h"
 #include "platform/qt/qttext.h"
@@ -33,7 +34,7 @@ constexpr std::size_t kContextRows = 3;                 // round a place to whic
 constexpr double kSmallestFont = 5, kLargestFont = 96;  // in points, after the zoom
 constexpr double kWheelNotch = 120;
 constexpr std::size_t kMostRectangles = 6;  // painted one by one; more are painted as one
-constexpr double kWidthStep = 16;  // columns by which the text's width grows
+constexpr double kWidthStep = 16;           // columns by which the text's width grows
 constexpr int kMostSurroundingText = 512;   // characters of its line that an input method sees
 
 std::shared_ptr<TEditor> HeldDocument(const TEditor& document) {
@@ -73,6 +74,8 @@ EditorWidget::EditorWidget(TEditor& document, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  setVerticalScrollBar(new FlatScrollBar(Qt::Vertical, this));
+  setHorizontalScrollBar(new FlatScrollBar(Qt::Horizontal, this));
   setAttribute(Qt::WA_InputMethodEnabled);
   setAccessibleName(QStringLiteral("Tekst dokumentu"));
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -244,7 +247,7 @@ void EditorWidget::wheelEvent(QWheelEvent* event) {
 
 void EditorWidget::TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine,
                                 std::size_t linesRemoved, std::size_t linesInserted) {
-  const bool rowsMoved = scene_.Rows().TextReplaced(offset, removed, inserted, firstLine, linesRemoved, linesInserted);
+  const RowsChange rows = scene_.Rows().TextReplaced(offset, removed, inserted, firstLine, linesRemoved, linesInserted);
   RowPosition top = scene_.Top();
   if (firstLine + linesRemoved < top.line)
     top.line = top.line + linesInserted - linesRemoved;
@@ -258,11 +261,11 @@ void EditorWidget::TextReplaced(std::size_t offset, std::size_t removed, std::si
   shown_ = {moved(shown_.start), moved(shown_.end), moved(shown_.caret), shown_.caretLine};
   if (shown_.caretLine > firstLine + linesRemoved) shown_.caretLine = shown_.caretLine + linesInserted - linesRemoved;
   followForced_ = true;
-  if (linesRemoved != linesInserted || rowsMoved) rangesChanged_ = true;
-  if (rowsMoved || linesRemoved > 0 || linesInserted > 0)
-    UpdateArea(scene_.AreaBelow(firstLine));
+  if (rows.moved) rangesChanged_ = true;
+  if (rows.moved)
+    UpdateArea(scene_.AreaFrom({firstLine, rows.first}));
   else
-    UpdateLines(firstLine, firstLine);
+    UpdateArea(scene_.AreaOfRows({firstLine, rows.first}, {firstLine, rows.last}));
   settle_.Ask();
 }
 
@@ -277,13 +280,12 @@ void EditorWidget::TextReset() {
 }
 
 void EditorWidget::StylesChanged(std::size_t offset, std::size_t length) {
-  const std::size_t first = editor_.LineFromChar(offset);
   if (scene_.Rows().StylesChanged(offset, length) && editor_.WordWrap()) {
     rangesChanged_ = true;
-    UpdateArea(scene_.AreaBelow(first));
+    UpdateArea(scene_.AreaFrom({editor_.LineFromChar(offset), 0}));
     return settle_.Ask();
   }
-  UpdateLines(first, editor_.LineFromChar(offset + length));
+  UpdateArea(scene_.AreaOfStretch(offset, offset + length));
 }
 
 void EditorWidget::SelectionChanged() { settle_.Ask(); }
@@ -295,8 +297,6 @@ void EditorWidget::UpdateArea(const QRectF& area) {
   if (!shown.isEmpty()) viewport()->update(shown);
 }
 
-void EditorWidget::UpdateLines(std::size_t first, std::size_t last) { UpdateArea(scene_.AreaOfLines(first, last)); }
-
 EditorWidget::ShownSelection EditorWidget::PresentSelection() const {
   const std::size_t start = editor_.SelStart(), caret = editor_.Caret();
   return {start, start + editor_.SelLength(), caret, editor_.LineFromChar(caret)};
@@ -306,14 +306,17 @@ void EditorWidget::ShowSelectionChange() {
   const ShownSelection before = shown_, now = PresentSelection();
   shown_ = now;
   const auto updateBetween = [this](std::size_t one, std::size_t other) {
-    if (one != other) UpdateLines(editor_.LineFromChar(std::min(one, other)), editor_.LineFromChar(std::max(one, other)));
+    if (one != other) UpdateArea(scene_.AreaOfStretch(std::min(one, other), std::max(one, other)));
   };
   if (before.start != before.end || now.start != now.end) {
     updateBetween(before.start, now.start);
     updateBetween(before.end, now.end);
   }
-  UpdateLines(std::min(before.caretLine, editor_.LineCount() - 1), std::min(before.caretLine, editor_.LineCount() - 1));
-  UpdateLines(now.caretLine, now.caretLine);
+  if (before.caretLine != now.caretLine) {
+    UpdateArea(scene_.AreaOfLine(std::min(before.caretLine, editor_.LineCount() - 1)));
+    UpdateArea(scene_.AreaOfLine(now.caretLine));
+  }
+  viewport()->update(caretShownAt_);
   RestartCaret();
   if (!QAccessible::isActive()) return;
   QAccessibleTextCursorEvent moved(this, static_cast<int>(now.caret));
@@ -388,6 +391,7 @@ void EditorWidget::PaintCaret(QPainter& painter) {
   const bool dragged = dropPlace_ != kNoDrop;
   if (!dragged && !caretLit_) return;
   const QRectF area = scene_.CaretArea(dragged ? dropPlace_ : editor_.Caret(), CaretWidth());
+  if (!dragged) caretShownAt_ = area.toAlignedRect();
   if (area.left() >= scene_.MarginWidth()) painter.fillRect(area, painter_.Colours().caret);
 }
 
@@ -497,7 +501,7 @@ void EditorWidget::TypeText(const QString& text) {
 
 void EditorWidget::inputMethodEvent(QInputMethodEvent* event) {
   preedit_ = event->preeditString();
-  UpdateLines(editor_.LineFromChar(editor_.Caret()), editor_.LineFromChar(editor_.Caret()));
+  UpdateArea(scene_.AreaOfStretch(editor_.Caret(), editor_.Caret()));
   const QString commit = event->commitString();
   event->accept();
   const bool alive = commit.isEmpty() || Run([&] { TypeText(commit); });

@@ -95,7 +95,6 @@ class EditorWidget : public QAbstractScrollArea, private EditorView {
   void UpdateHorizontalBar(double atLeast);
   void MoveWrappedBar(int action);
   void WidenTo(const QRectF& area);
-  void UpdateLines(std::size_t first, std::size_t last);
   void UpdateArea(const QRectF& area);
   void ShowSelectionChange();
   void FollowCaret(std::size_t context);
@@ -131,6 +130,7 @@ class EditorWidget : public QAbstractScrollArea, private EditorView {
   int zoom_ = 0;
   QBasicTimer caretTimer_;
   bool caretLit_ = false;
+  QRect caretShownAt_;  // where it was painted last
   std::size_t dropPlace_ = kNoDrop;
   QString preedit_;
 };

@@ -192,7 +192,6 @@ void MainWindow::End() {
   KeepPlace();
   ended_ = true;
   close();
-  QCoreApplication::exit(0);
 }
 
 void MainWindow::FocusMoved(Control& control) {

@@ -94,6 +94,7 @@ void QtFrontEnd::PopUp(Menu& menu) {
 
 void QtFrontEnd::ProgramEnds() {
   if (window_) window_->End();
+  if (onEnd) onEnd();
 }
 
 void QtFrontEnd::ShowLineNumbers(bool shown) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <memory>
 
 #include "core/defs.h"
@@ -26,6 +27,9 @@ class QtFrontEnd : public FrontEnd {
   // The main window and all that refers to the program goes.
   void Hide();
   MainWindow* Window() const { return window_.get(); }
+
+  // Raised when the program has ended and its window is gone.
+  std::function<void()> onEnd;
 
   void DocumentOpened(TEditor& document) override;
   void DocumentClosed(TEditor& document) override;

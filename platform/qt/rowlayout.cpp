@@ -122,8 +122,8 @@ std::size_t EditorRows::OffsetInRow(std::size_t offset, std::ptrdiff_t rows, dou
 double EditorRows::HorizontalPlace(std::size_t offset) { return measure_.Place(SpanOf(PositionOf(offset)), offset); }
 
 // Starts of rows up to the one in front of the edited row hold; from there the line is wrapped anew until a row starts
-// where one did before. True when the line has another number of rows now.
-bool EditorRows::WrapAgain(std::size_t line, std::size_t edited, std::size_t removed, std::size_t inserted, Starts& starts) const {
+// where one did before.
+RowsChange EditorRows::WrapAgain(std::size_t line, std::size_t edited, std::size_t removed, std::size_t inserted, Starts& starts) const {
   const std::size_t from = editor_.LineIndex(line), end = editor_.LineEnd(line);
   const auto editedRow = static_cast<std::size_t>(std::upper_bound(starts.begin(), starts.end(), edited) - starts.begin()) - 1;
   const std::size_t kept = std::max<std::size_t>(1, editedRow);
@@ -131,8 +131,10 @@ bool EditorRows::WrapAgain(std::size_t line, std::size_t edited, std::size_t rem
   const std::size_t oldCount = starts.size();
   starts.resize(kept);
   auto match = std::lower_bound(old.begin(), old.end(), edited + removed);
+  std::size_t lastChanged = 0;
   for (std::size_t next = from + starts.back();;) {
     next = measure_.NextRowStart(next, end, width_);
+    lastChanged = starts.size() - 1;
     if (next >= end) break;
     const std::size_t within = next - from;
     while (match != old.end() && *match - removed + inserted < within) ++match;
@@ -142,7 +144,7 @@ bool EditorRows::WrapAgain(std::size_t line, std::size_t edited, std::size_t rem
     }
     starts.push_back(static_cast<std::uint32_t>(within));
   }
-  return starts.size() != oldCount;
+  return {starts.size() != oldCount, kept - 1, lastChanged};
 }
 
 void EditorRows::RenumberBehind(std::size_t firstLine, std::size_t linesRemoved, std::size_t linesInserted) {
@@ -154,17 +156,17 @@ void EditorRows::RenumberBehind(std::size_t firstLine, std::size_t linesRemoved,
   wrapped_ = std::move(renumbered);
 }
 
-bool EditorRows::TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine,
-                              std::size_t linesRemoved, std::size_t linesInserted) {
+RowsChange EditorRows::TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine,
+                                    std::size_t linesRemoved, std::size_t linesInserted) {
   const bool linesChanged = linesRemoved > 0 || linesInserted > 0;
   measure_.TextReplaced(offset, firstLine, linesChanged);
-  if (!editor_.WordWrap()) return linesRemoved != linesInserted;
+  if (!editor_.WordWrap()) return {.moved = linesChanged};
   if (linesChanged) {
     RenumberBehind(firstLine, linesRemoved, linesInserted);
-    return true;
+    return {.moved = true};
   }
   const auto found = wrapped_.find(firstLine);
-  if (found == wrapped_.end()) return true;
+  if (found == wrapped_.end()) return {.moved = true};
   return WrapAgain(firstLine, offset - editor_.LineIndex(firstLine), removed, inserted, found->second);
 }
 

@@ -18,6 +18,12 @@ struct RowPosition {
   auto operator<=>(const RowPosition&) const = default;
 };
 
+// What an edit does to the rows of its first line.
+struct RowsChange {
+  bool moved = false;               // the rows behind may lie elsewhere now
+  std::size_t first = 0, last = 0;  // the rows with another content; the last one counts only where none moved
+};
+
 // Rows of wrapped lines are computed when they are asked for, which a view does for what it shows, and kept across edits
 // as far as these leave them alone.
 class EditorRows final : public RowLayout {
@@ -47,9 +53,9 @@ class EditorRows final : public RowLayout {
   LineMeasure& Measure() { return measure_; }
 
   void Forget();
-  // The same events that a view of the text gets. True when the rows below the line of the change may have moved.
-  bool TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine, std::size_t linesRemoved,
-                    std::size_t linesInserted);
+  // The same events that a view of the text gets.
+  RowsChange TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine, std::size_t linesRemoved,
+                          std::size_t linesInserted);
   // True when characters may have moved.
   bool StylesChanged(std::size_t offset, std::size_t length);
 
@@ -57,7 +63,7 @@ class EditorRows final : public RowLayout {
   // Offsets at which the rows of a line start, counted from the line's start; the first is 0.
   using Starts = std::vector<std::uint32_t>;
   const Starts& StartsOf(std::size_t line);
-  bool WrapAgain(std::size_t line, std::size_t edited, std::size_t removed, std::size_t inserted, Starts& starts) const;
+  RowsChange WrapAgain(std::size_t line, std::size_t edited, std::size_t removed, std::size_t inserted, Starts& starts) const;
   void RenumberBehind(std::size_t firstLine, std::size_t linesRemoved, std::size_t linesInserted);
 
   const MlnEditor& editor_;

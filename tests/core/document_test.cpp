@@ -51,11 +51,11 @@ TEST_F(Document, ChangesDuringLoadingAreIgnored) {
   EXPECT_FALSE(document.IsModified());
 }
 
-TEST_F(Document, TheSizeIsToldWhenItChangedMarkedly) {
+TEST_F(Document, TheSizeIsToldWithEachChange) {
   TEditor& document = test.OpenText("");
   document.ShowSize();
   Type(document, "abc");
-  EXPECT_EQ(test.frame().statusBar.PanelText("docsize"), "0 B");
+  EXPECT_EQ(test.frame().statusBar.PanelText("docsize"), "3 B");
   document.EditedText.SetSelText(std::string(2045, 'x'));
   EXPECT_EQ(test.frame().statusBar.PanelText("docsize"), "2 KB");
   document.EditedText.Select(0, 1024);

@@ -22,7 +22,8 @@ TEST(ReadableColour, ReadableColoursStayAsChosen) {
 TEST(ReadableColour, BlackTextTurnsWhiteOnBlack) { EXPECT_EQ(ReadableOn(kBlack, kBlack), kWhite); }
 
 TEST(ReadableColour, TheFourColoursCanBeReadOnDark) {
-  for (const Colour colour : {kBlack, RgbColour(0, 0, 255), RgbColour(0, 128, 0), RgbColour(128, 128, 128), RgbColour(128, 0, 0), RgbColour(0, 0, 128)})
+  for (const Colour colour :
+       {kBlack, RgbColour(0, 0, 255), RgbColour(0, 128, 0), RgbColour(128, 128, 128), RgbColour(128, 0, 0), RgbColour(0, 0, 128)})
     EXPECT_GE(Contrast(ReadableOn(colour, kDark), kDark), 3) << colour;
 }
 

@@ -95,6 +95,14 @@ TEST_F(Buttons, WithoutACommandAreNotShown) {
     EXPECT_FALSE(test_.frame().FindAs<ToolBar>(toolbar)->UserPresses(key)) << toolbar << " " << key;
 }
 
+TEST_F(Buttons, EveryPairIsReachableFromAMenu) {
+  const Menu& menu = test_.OpenText("").menu;
+  for (const PairRow& row : PairRows()) {
+    ASSERT_NE(menu.Find(row.menu), nullptr) << row.menu;
+    EXPECT_TRUE(menu.Find(row.menu)->visible) << row.menu;
+  }
+}
+
 struct MenuCase {
   std::string_view menu, text;
 };
