@@ -1,6 +1,7 @@
 #include "core/sizetext.h"
 
 #include <array>
+#include <cmath>
 #include <string_view>
 
 #include "core/text.h"
@@ -16,7 +17,8 @@ std::string SizeText(std::uint64_t bytes) {
     number /= kStep;
     ++unit;
   }
-  return Concat({NumberText(number), kUnits[unit]});
+  constexpr double kHundredth = 100;
+  return Concat({NumberText(std::trunc(number * kHundredth) / kHundredth), kUnits[unit]});
 }
 
 }  // namespace morlan

@@ -14,9 +14,10 @@ TEST(SizeText, DividesWhileAWholePartIsLeft) {
   EXPECT_EQ(SizeText(3 * 1024 * 1024), "3 MB");
 }
 
-TEST(SizeText, DoesNotRound) {
+TEST(SizeText, CutsBehindTwoDecimals) {
   EXPECT_EQ(SizeText(1536), "1.5 KB");
-  EXPECT_EQ(SizeText(10000), "9.765625 KB");
+  EXPECT_EQ(SizeText(10000), "9.76 KB");
+  EXPECT_EQ(SizeText(1047527424), "999 MB");
 }
 
 TEST(SizeText, StopsAtMegabytes) { EXPECT_EQ(SizeText(5ull * 1024 * 1024 * 1024), "5120 MB"); }
