@@ -36,8 +36,6 @@ class BenchProgram {
     program_.passes.colourDocument(document_->EditedText);
   }
   TEditor& document() { return *document_; }
-  Program& program() { return program_; }
-  const std::string& Folder() const { return folder_.Path(); }  // native, gone with the program
 
  private:
   PrivateFolder folder_;

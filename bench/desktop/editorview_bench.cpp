@@ -1,5 +1,4 @@
-// What a person waits for in the text view: a key press from the event to the repainted line, a scrolled row, a page that
-// opens and is painted for the first time. Run it on a screen in memory or on a real one.
+// A key press in the text view of the desktop program, from the event to the repainted rows.
 #include <benchmark/benchmark.h>
 #include <time.h>
 
@@ -9,14 +8,12 @@
 #include <QString>
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "bench/benchprogram.h"
 #include "bench/pages.h"
-#include "core/documents.h"
 #include "platform/qt/editorview.h"
 
 namespace morlan {
@@ -102,25 +99,6 @@ BENCHMARK(KeyInOneLine)->Arg(1)->Arg(10)->Iterations(200)->Unit(benchmark::kMicr
 BENCHMARK(KeyInOneWrappedLine)->Arg(1)->Iterations(200)->Unit(benchmark::kMicrosecond);
 BENCHMARK(EnterInPage)->Arg(10)->Iterations(200)->Unit(benchmark::kMicrosecond);
 BENCHMARK(ScrollByKey)->Arg(10)->Iterations(200)->Unit(benchmark::kMicrosecond);
-
-// From the file to the painted view: reading, passes, colours, layout, first paint.
-void OpenAndPaint(benchmark::State& state) {
-  BenchProgram program("");
-  Files& files = program.program().platform.files;
-  const std::string path = files.FromNative(program.Folder() + "/strona.html");
-  files.Write(path, GeneratedPage(Megabytes(state)));
-  for (auto _ : state) {
-    OpenDocument(program.program(), path);
-    auto view = std::make_unique<ShownView>(*program.program().ActiveDocument);
-    state.PauseTiming();
-    view.reset();
-    CloseActiveDocument(program.program());
-    program.program().ForgetClosed();
-    state.ResumeTiming();
-  }
-  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(Megabytes(state)));
-}
-BENCHMARK(OpenAndPaint)->Arg(1)->Arg(10)->Arg(50)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace morlan

@@ -58,7 +58,9 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
     if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) control_.UserLeaves();
   }
   if (event->type() == QEvent::ContextMenu && control_.OnRightClick) return control_.UserRightClicks();
-  return event->type() == QEvent::KeyPress && SwallowsKey(event);
+  if (event->type() != QEvent::KeyPress || !SwallowsKey(event)) return false;
+  event->accept();
+  return true;
 }
 
 bool ControlBinding::SwallowsKey(QEvent* event) {

@@ -5,11 +5,18 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <malloc.h>
+
 #include "core/morlan.h"
 #include "platform/qt/pictureofwindow.h"
 #include "platform/qt/style.h"
 
 namespace morlan {
+namespace {
+
+constexpr int kLargeBlock = 1 << 20;
+
+}  // namespace
 
 Desktop::Desktop(const MachineServices& machine)
     : machine_(machine),
@@ -33,6 +40,8 @@ void Desktop::Start(Program& program) {
 void Desktop::Finish() { frontEnd_.Hide(); }
 
 void PrepareToolkit() {
+  // Without a fixed bound the allocator would keep the copies that a large page goes through while it is opened.
+  mallopt(M_MMAP_THRESHOLD, kLargeBlock);
   // One look on every desktop, and no search for the desktop's own style.
   QApplication::setStyle(new Style);
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

@@ -44,7 +44,7 @@ class Desktop {
   QtFrontEnd frontEnd_;
 };
 
-// Settings of the toolkit that must be made before there is a QApplication, and behind it.
+// Settings of the process and of the toolkit that must be made before there is a QApplication, and behind it.
 void PrepareToolkit();
 void SetUpToolkit();
 

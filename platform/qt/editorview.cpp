@@ -104,8 +104,6 @@ bool EditorWidget::Run(const std::function<void()>& action) {
   return !self.isNull();
 }
 
-// --- font and layout
-
 void EditorWidget::TakeFont() {
   glyphRatio_ = devicePixelRatioF();
   auto glyphs = std::make_unique<GlyphTable>(FontOf(editor_.Font(), zoom_), glyphRatio_);
@@ -155,8 +153,6 @@ void EditorWidget::changeEvent(QEvent* event) {
   painter_.SetColours(EditorColours::From(palette()));
   viewport()->update();
 }
-
-// --- scrolling
 
 // While lines are wrapped the bar counts characters: the rows of a whole text are not known.
 void EditorWidget::UpdateScrollBars() {
@@ -243,8 +239,6 @@ void EditorWidget::wheelEvent(QWheelEvent* event) {
   if (OnZoomChanged) OnZoomChanged(zoom_);
 }
 
-// --- what the model tells
-
 void EditorWidget::TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine,
                                 std::size_t linesRemoved, std::size_t linesInserted) {
   const RowsChange rows = scene_.Rows().TextReplaced(offset, removed, inserted, firstLine, linesRemoved, linesInserted);
@@ -267,6 +261,9 @@ void EditorWidget::TextReplaced(std::size_t offset, std::size_t removed, std::si
   else
     UpdateArea(scene_.AreaOfRows({firstLine, rows.first}, {firstLine, rows.last}));
   settle_.Ask();
+  if (!QAccessible::isActive() || inserted == 0) return;
+  QAccessibleTextInsertEvent told(this, static_cast<int>(offset), ToQt(editor_.Slice(offset, inserted)));
+  QAccessible::updateAccessibility(&told);
 }
 
 void EditorWidget::TextReset() {
@@ -289,8 +286,6 @@ void EditorWidget::StylesChanged(std::size_t offset, std::size_t length) {
 }
 
 void EditorWidget::SelectionChanged() { settle_.Ask(); }
-
-// --- showing what changed
 
 void EditorWidget::UpdateArea(const QRectF& area) {
   const QRect shown = area.toAlignedRect() & viewport()->rect();
@@ -348,8 +343,6 @@ void EditorWidget::FollowCaret(std::size_t context) {
   UpdateHorizontalBar(scroll);
   horizontalScrollBar()->setValue(static_cast<int>(scroll));
 }
-
-// --- painting
 
 void EditorWidget::paintEvent(QPaintEvent* event) {
   if (glyphRatio_ != devicePixelRatioF()) LayOutAgain([this] { TakeFont(); });
@@ -429,8 +422,6 @@ void EditorWidget::timerEvent(QTimerEvent* event) {
   viewport()->update(CaretRectangle());
 }
 
-// --- keys
-
 // Menus get the combinations of Alt that open them; every other key is the text's.
 bool EditorWidget::TakesAsKey(const QKeyEvent& event) const {
   const TypedKey typed = ReadKey(event);
@@ -488,8 +479,6 @@ void EditorWidget::focusOutEvent(QFocusEvent* event) {
 }
 
 void EditorWidget::dragLeaveEvent(QDragLeaveEvent*) { ShowDropPlace(kNoDrop); }
-
-// --- input methods
 
 void EditorWidget::TypeText(const QString& text) {
   const int byte = text.size() == 1 ? ByteOf(text[0].unicode()) : -1;

@@ -209,8 +209,8 @@ void MainWindow::paintEvent(QPaintEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  event->setAccepted(ended_);
   if (!ended_) QuitProgram(program_);
+  event->setAccepted(ended_);
 }
 
 // Keys that the widget with the focus leaves. A text sees to its own.

@@ -28,6 +28,12 @@ double StartOfProcessInSeconds() {
   return fields.size() <= kStartTimeField - 3 ? 0 : fields[kStartTimeField - 3].toDouble() / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
+double SecondsOf(clockid_t clock) {
+  timespec now = {};
+  clock_gettime(clock, &now);
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
 }  // namespace
 
 bool IsPictureWanted() { return !qEnvironmentVariableIsEmpty(kPictureVariable); }
@@ -41,10 +47,8 @@ bool SavePictureAndQuit(QWidget& window) {
 
 void TraceStart() {
   if (qEnvironmentVariableIsEmpty(kTraceVariable)) return;
-  timespec now = {};
-  clock_gettime(CLOCK_BOOTTIME, &now);
-  const double seconds = static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-  std::fprintf(stderr, "first paint after %.0f ms\n", (seconds - StartOfProcessInSeconds()) * 1000);
+  const double passed = SecondsOf(CLOCK_BOOTTIME) - StartOfProcessInSeconds();
+  std::fprintf(stderr, "first paint after %.0f ms, %.1f ms of them at work\n", passed * 1000, SecondsOf(CLOCK_PROCESS_CPUTIME_ID) * 1000);
 }
 
 }  // namespace morlan

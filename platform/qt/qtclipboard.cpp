@@ -13,7 +13,7 @@ std::optional<std::string> QtClipboard::Text() {
   const QMimeData* data = clipboard.mimeData();
   if (!data || !data->hasText()) return std::nullopt;
   QString outside = data->text();
-  if (outside == outside_ && clipboard.ownsClipboard()) return text_;
+  if (outside == outside_) return text_;
   outside_ = outside;
   outside.replace(QLatin1StringView("\r\n"), QLatin1StringView("\n")).replace(QLatin1Char('\n'), QLatin1StringView("\r\n"));
   text_ = FromQt(outside, Unmappable::NumericReference);

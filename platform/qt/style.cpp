@@ -2,6 +2,8 @@
 
 #include <QStyleOption>
 
+#include "platform/qt/svgicons.h"
+
 namespace morlan {
 namespace {
 
@@ -37,6 +39,11 @@ Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+// Every menu bar asks for this one, and the toolkit would look for all its readers of pictures to load it.
+QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
+  return picture == SP_ToolBarHorizontalExtensionButton ? SvgIcon("next") : QProxyStyle::standardIcon(picture, option, widget);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {

@@ -5,9 +5,9 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
-#include <QMimeData>
 #include <QImage>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPointF>
 #include <QString>
@@ -84,13 +84,19 @@ class EditorTest : public testing::Test {
     QApplication::sendEvent(view->viewport(), &drop);
     return drop.isAccepted();
   }
+  // A part of the viewport in pixels of its picture.
+  static QRect OnDevice(const QImage& picture, const QRectF& area) {
+    const double ratio = picture.devicePixelRatio();
+    return QRectF(area.topLeft() * ratio, area.size() * ratio).toRect() & picture.rect();
+  }
   QImage Picture() const { return view->viewport()->grab().toImage(); }
   // How many pixels of the character's cell have the colour.
   int Pixels(const QImage& picture, std::size_t offset, const QColor& colour) const {
     const QRectF left = view->Scene().CaretArea(offset, 1), right = view->Scene().CaretArea(offset + 1, 1);
+    const QRect cell = OnDevice(picture, QRectF(left.topLeft(), QPointF(right.left(), left.bottom())));
     int count = 0;
-    for (int y = static_cast<int>(left.top()); y < static_cast<int>(left.bottom()); ++y)
-      for (int x = static_cast<int>(left.left()); x < static_cast<int>(right.left()); ++x) count += picture.pixelColor(x, y) == colour;
+    for (int y = cell.top(); y <= cell.bottom(); ++y)
+      for (int x = cell.left(); x <= cell.right(); ++x) count += picture.pixelColor(x, y) == colour;
     return count;
   }
 

@@ -337,7 +337,7 @@ TEST_F(EditorTest, PaintsTheSelectionAndItsLineEnd) {
   EXPECT_EQ(Pixels(picture, 0, selection), 0);
   EXPECT_GT(Pixels(picture, 1, selection), 10);
   const QPointF lineEnd = PointOf(2) + QPointF(view->Scene().Glyphs().CellWidth() / 2, 0);
-  EXPECT_EQ(picture.pixelColor(lineEnd.toPoint()), selection);
+  EXPECT_EQ(picture.pixelColor(OnDevice(picture, QRectF(lineEnd, QSizeF(1, 1))).topLeft()), selection);
 }
 
 TEST_F(EditorTest, PaintsAnyByte) {

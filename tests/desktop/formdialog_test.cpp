@@ -191,8 +191,13 @@ TEST_F(FormDialogTest, LabelsOfFieldsThatFollowEachOtherLineUp) {
 
 TEST_F(FormDialogTest, TabGoesThroughTheControlsInTheirOrder) {
   OpenAndLeave([](QWidget& modal) {
-    QWidget& name = Named<QLineEdit>(modal, "nazwa");
-    EXPECT_EQ(name.nextInFocusChain(), &Named<QWidget>(modal, "tresc"));
+    const char* order[] = {"nazwa", "tresc", "wybor", "adres", "lista", "wiele", "duze", "lewa"};
+    Named<QWidget>(modal, order[0]).setFocus();
+    for (const char* name : order) {
+      ASSERT_NE(modal.focusWidget(), nullptr);
+      EXPECT_EQ(modal.focusWidget()->objectName(), QLatin1StringView(name));
+      PressIn(*modal.focusWidget(), Qt::Key_Tab);
+    }
   });
 }
 

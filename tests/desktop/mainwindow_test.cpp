@@ -47,8 +47,8 @@ TEST_F(MainWindowTest, ComesUpWithAnEmptyDocumentReadyForKeys) {
   EXPECT_EQ(Titles(Documents(Window())), QStringList{QStringLiteral("BezTytułu.html")});
   TypeIn(Editor(), QStringLiteral("<b>ą"));
   EXPECT_EQ(Text(), "<b>ą"_pl);
-  EXPECT_TRUE(Window().isWindowModified());
   Settle();
+  EXPECT_TRUE(Window().isWindowModified());
   EXPECT_TRUE(Documents(Window()).IsMarked(0));
 }
 
@@ -168,7 +168,7 @@ TEST_F(MainWindowTest, TabsBringDocumentsForwardAndCloseThem) {
   emit Documents(Window()).tabCloseRequested(1);
   Settle();
   EXPECT_EQ(Documents(Window()).count(), 1);
-  EXPECT_TRUE(program.closedDocuments.empty());
+  EXPECT_TRUE(WaitFor([this] { return program.closedDocuments.empty(); }));
 }
 
 TEST_F(MainWindowTest, WithoutADocumentTheSmallMenuServes) {
@@ -219,6 +219,9 @@ TEST_F(MainWindowTest, FilesFromOutsideAreOpened) {
   Start();
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(QString::fromStdString((folder.path / "work/a.html").string()))});
+  QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&Window(), &enter);
+  EXPECT_TRUE(enter.isAccepted());
   QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&Window(), &drop);
   EXPECT_EQ(program.ActiveDocument->Caption(), Path("work/a.html"));
@@ -230,6 +233,7 @@ TEST_F(MainWindowTest, TheWindowPlacesAreRemembered) {
   Settle();
   AnswerNext(QStringLiteral("Tak"));
   Window().close();
+  Settle();
   EXPECT_NE(ReadFile("windows/window-places.ini").find("MainWindow="), std::string::npos);
 }
 

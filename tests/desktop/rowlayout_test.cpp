@@ -16,14 +16,16 @@ class Listener : public EditorView {
   explicit Listener(EditorRows& rows) : rows_(rows) {}
   void TextReplaced(std::size_t offset, std::size_t removed, std::size_t inserted, std::size_t firstLine, std::size_t linesRemoved,
                     std::size_t linesInserted) override {
-    moved = rows_.TextReplaced(offset, removed, inserted, firstLine, linesRemoved, linesInserted);
+    change = rows_.TextReplaced(offset, removed, inserted, firstLine, linesRemoved, linesInserted);
+    line = firstLine;
   }
   void TextReset() override { rows_.Forget(); }
   void StylesChanged(std::size_t offset, std::size_t length) override { rows_.StylesChanged(offset, length); }
   void SelectionChanged() override {}
   void PropertiesChanged() override {}
   void FocusWanted() override {}
-  bool moved = false;
+  RowsChange change;
+  std::size_t line = 0;
 
  private:
   EditorRows& rows_;
@@ -109,6 +111,29 @@ TEST_P(Rows, DistanceCountsRowsOfWrappedLines) {
   EXPECT_EQ(rows.Distance({0, 0}, {2, 0}, 2), 2);
   EXPECT_EQ(rows.Moved({0, 0}, 3), (RowPosition{1, 0}));
   EXPECT_EQ(rows.Moved({2, 0}, -2), (RowPosition{0, 2}));
+}
+
+// A row that is not told as changed looks as it did.
+TEST_P(Rows, AnEditTellsWhichRowsOfItsLineChanged) {
+  std::string text;
+  for (int word = 0; word < 400; ++word) text += word % 3 == 0 ? "slowo " : "i ";
+  Wrap(text, 20);
+  std::mt19937 random(3);
+  int kept = 0;
+  for (int edit = 0; edit < 200; ++edit) {
+    const std::vector<std::string> before = Shown(rows);
+    editor.Select(std::uniform_int_distribution<std::size_t>(0, editor.Length())(random), edit % 4);
+    editor.SetSelText(edit % 2 == 0 ? "x" : "y ");
+    const std::vector<std::string> after = Shown(rows);
+    ASSERT_EQ(listener.change.moved, before.size() != after.size()) << edit;
+    if (listener.change.moved) continue;
+    for (std::size_t row = 0; row < after.size(); ++row) {
+      if (row >= listener.change.first && row <= listener.change.last) continue;
+      ASSERT_EQ(before[row], after[row]) << edit;
+      ++kept;
+    }
+  }
+  EXPECT_GT(kept, 1000);
 }
 
 // What edits leave of the kept rows and places is what computing them anew gives.

@@ -1,0 +1,15 @@
+# Benchmarks of the desktop program. They run on whatever display there is, and on one in memory without any.
+if(NOT MORLAN7_DESKTOP)
+  return()
+endif()
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport Svg DBus)
+
+file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/desktop/*_bench.cpp)
+foreach(source IN LISTS sources)
+  get_filename_component(name ${source} NAME_WE)
+  string(REPLACE "_bench" "" name ${name})
+  add_executable(bench_${name} ${source} pages.cpp)
+  target_link_libraries(bench_${name} PRIVATE assemble qt icons posix script benchmark::benchmark)
+  target_compile_definitions(bench_${name} PRIVATE MORLAN7_PROGRAM="$<TARGET_FILE:morlan7>" MORLAN7_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  add_dependencies(bench_${name} morlan7)
+endforeach()
