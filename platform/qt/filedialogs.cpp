@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include "core/paths.h"
 #include "core/text.h"
 #include "platform/qt/filefilters.h"
 #include "platform/qt/messages.h"
@@ -20,7 +21,7 @@ std::string Chosen(Files& files, const QFileDialog& dialog) {
 
 // The file that a save under this name will really write: a name without a dot gets its extension later.
 std::string WrittenFile(const FileRequest& request, const std::string& path) {
-  return path.find('.') == std::string::npos ? Concat({path, request.extension}) : path;
+  return FileNameOf(path).find('.') == std::string::npos ? Concat({path, request.extension}) : path;
 }
 
 bool MayOverwrite(const FileRequest& request, Files& files, const std::string& path, QWidget* parent) {

@@ -35,7 +35,7 @@ const QString kWindowPlace = QStringLiteral("MainWindow");
 const QString kSidesPlace = QStringLiteral("SidePanel");
 const QString kListsPlace = QStringLiteral("FilePanel");
 constexpr int kSidePanelWidth = 230;
-constexpr QSize kFirstSize = {1280, 820};
+constexpr QSize kFirstSize = {1440, 900};
 
 const Menu& MenuOf(const Program& program) { return program.ActiveDocument ? program.ActiveDocument->menu : program.frame().menu; }
 

@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 #include "platform/qt/qttext.h"
-#include "tests/desktop/desktopfixture.h"
+#include "tests/desktop/support/desktopfixture.h"
 
 namespace morlan {
 namespace {

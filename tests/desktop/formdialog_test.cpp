@@ -14,7 +14,7 @@
 #include "core/text.h"
 #include "platform/qt/flattabbar.h"
 #include "platform/qt/qtwindows.h"
-#include "tests/desktop/desktopfixture.h"
+#include "tests/desktop/support/desktopfixture.h"
 #include "tests/support/trialform.h"
 
 namespace morlan {

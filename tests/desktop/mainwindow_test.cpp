@@ -16,7 +16,7 @@
 #include "platform/qt/editorview.h"
 #include "platform/qt/flattabbar.h"
 #include "platform/qt/qttext.h"
-#include "tests/desktop/desktopfixture.h"
+#include "tests/desktop/support/desktopfixture.h"
 
 namespace morlan {
 namespace {

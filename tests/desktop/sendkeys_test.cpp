@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "tests/desktop/desktopfixture.h"
+#include "tests/desktop/support/desktopfixture.h"
 
 namespace morlan {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/desktop/desktopfixture.h"
+#include "tests/desktop/support/desktopfixture.h"
 
 #include <QElapsedTimer>
 #include <QMessageBox>
