@@ -14,7 +14,7 @@ struct Row {
 
 TEST(SendKeys, TypesTextsAndNamedKeys) {
   const Row rows[] = {
-      {"abc", "abc"},        {"ab{LEFT}c", "acb"}, {"ab{BS}", "a"},      {"{x 3}", "xxx"}, {"{+}{{}{}}", "+{}"}, {"ab{HOME}{DEL 2}c", "c"},
+      {"abc", "abc"},        {"ab{LEFT}c", "acb"}, {"ab{BS}", "a"},      {"{y 3}", "yyy"}, {"{+}{{}{}}", "+{}"}, {"ab{HOME}{DEL 2}c", "c"},
       {"{NOSUCHKEY}a", "a"}, {"a{", "a"},          {"ab+{LEFT}c", "ac"}, {"", ""},
   };
   for (const Row& row : rows) {
