@@ -12,9 +12,9 @@ class ContextMenu : public testing::Test {
  protected:
   ContextMenu() {
     for (const char* name : {"a.mid", "a.jpg", "b.GIF", "c.html", "d.shtml", "e.map", "f.txt", "g.b.html"})
-      test_.Write(Concat({"strony\\", name}), "x");
+      test_.Write(Concat({"work\\", name}), "x");
   }
-  TagOffer Offer(std::string_view tag, std::string_view name) { return OfferFor(test_.program, tag, name, test_.Path("strony")); }
+  TagOffer Offer(std::string_view tag, std::string_view name) { return OfferFor(test_.program, tag, name, test_.Path("work")); }
   // The captions of what is offered, with a "|" between them.
   std::string Captions(std::string_view tag, std::string_view name) {
     std::string captions;
@@ -54,7 +54,7 @@ TEST_F(ContextMenu, OffersWhatFitsTheFileOfATag) {
       {"<a href=\"d.shtml\"", "a", "Otwórz plik d.shtml"_pl},
       {"<a href=\"e.map\"", "a", "Otwórz plik e.map"_pl},
       {"<a href=\"f.txt\"", "a", ""},
-      {"<a href=\"../strony/c.html\"", "a", "Otwórz plik c.html"_pl},
+      {"<a href=\"../work/c.html\"", "a", "Otwórz plik c.html"_pl},
       {"<a href=\"http://a/c.html\"", "a", ""},
       {"<a href=\"#dół\""_pl, "a", "Skocz do etykiety DÓŁ"_pl},
       {"<a name=\"x\"", "a", ""},
@@ -142,7 +142,7 @@ TEST_F(ContextMenu, OpensTheFileOfALink) {
   EXPECT_EQ(Shown(document), "xmn_tagname xmn_item2");
   EXPECT_EQ(Caption(document, "xmn_item2"), "Otwórz plik c.html"_pl);
   EXPECT_TRUE(test_.program.commands.RunMenu("xmn_item2"));
-  EXPECT_EQ(test_.program.ActiveDocument->Caption(), test_.Path("strony\\c.html"));
+  EXPECT_EQ(test_.program.ActiveDocument->Caption(), test_.Path("work\\c.html"));
 }
 
 TEST_F(ContextMenu, JumpsToALabelAndLeavesItsNameInTheDialogResult) {
@@ -161,7 +161,7 @@ TEST_F(ContextMenu, OffersOnlyActionsThatExist) {
   EXPECT_EQ(Shown(document), "xmn_tagname xmn_item2");
   EXPECT_EQ(Caption(document, "xmn_item2"), "Utwórz mapę dla a.jpg"_pl);
   test_.program.commands.RunMenu("xmn_item2");
-  EXPECT_EQ(mapped, test_.Path("strony\\a.jpg"));
+  EXPECT_EQ(mapped, test_.Path("work\\a.jpg"));
 }
 
 }  // namespace
