@@ -14,6 +14,10 @@ void UndoIO::AddChange(std::size_t position, std::size_t selectionLength, std::s
   records_.push_back({std::string(inserted), position, selectionLength, kind, std::string(removed)});
 }
 
+void UndoIO::AddRemovedToNewest(std::string_view removed) {
+  if (!records_.empty()) records_.back().removed.insert(0, removed);
+}
+
 void UndoIO::DoUndo(TEditor& document) {
   if (records_.empty()) return;
   const UndoRecord record = std::move(records_.back());

@@ -27,6 +27,8 @@ class UndoIO {
 
   // Records nothing when both texts are empty and the selection length is 0.
   void AddChange(std::size_t position, std::size_t selectionLength, std::string_view inserted, std::string_view removed, ChangeKind kind);
+  // Says that the newest change also took a text away, at its place and before it put its own there.
+  void AddRemovedToNewest(std::string_view removed);
   // Applies the newest record to the document and drops it.
   void DoUndo(TEditor& document);
   std::size_t Count() const { return records_.size(); }

@@ -9,6 +9,7 @@
 #include "tags/quickmenu.h"
 #include "tags/selectioncommands.h"
 #include "tags/symbols.h"
+#include "tags/tageditors.h"
 #include "tags/taglist.h"
 
 namespace morlan {
@@ -44,6 +45,7 @@ void RegisterTags(Program& program) {
   RegisterSymbols(program);
   RegisterQuickMenu(program);
   RegisterContextMenu(program);
+  RegisterTagEditors(program);
 }
 
 }  // namespace morlan

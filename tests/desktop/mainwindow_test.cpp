@@ -74,7 +74,7 @@ TEST_F(MainWindowTest, AToolbarButtonWrapsTheSelection) {
 
 TEST_F(MainWindowTest, ButtonsWithoutACommandAreNotThere) {
   Start();
-  EXPECT_EQ(Named<QWidget>(Window(), "Toolbar1").findChild<QToolButton*>(QStringLiteral("image")), nullptr);
+  EXPECT_EQ(Named<QWidget>(Window(), "Toolbar1").findChild<QToolButton*>(QStringLiteral("email")), nullptr);
   EXPECT_EQ(Window().findChild<QWidget*>(QStringLiteral("makro")), nullptr);
 }
 

@@ -85,10 +85,10 @@ TEST_F(ContextMenu, KnowsTheTagsThatAreOnlyEdited) {
 }
 
 TEST_F(ContextMenu, NamesTheTagAndHidesTheEditEntryWithoutAnEditor) {
-  const TEditor& document = RightClick("a <hr width=1> b", 6);
+  const TEditor& document = RightClick("a <form method=get> b", 6);
   EXPECT_EQ(Shown(document), "xmn_tagname");
-  EXPECT_EQ(Caption(document, "xmn_tagname"), "<HR>");
-  EXPECT_EQ(test_.program.tagState.CurrentTagText, "<hr width=1");
+  EXPECT_EQ(Caption(document, "xmn_tagname"), "<FORM>");
+  EXPECT_EQ(test_.program.tagState.CurrentTagText, "<form method=get");
   EXPECT_EQ(test_.program.tagState.CurrentTagStart, 3u);
   EXPECT_EQ(test_.frontEnd.poppedUp, &document.xmnm_editpopup);
   EXPECT_EQ(test_.frame().statusBar.PanelText("status"), "Gotowy");
@@ -139,7 +139,7 @@ TEST_F(ContextMenu, IsSilentWhileAWholeDocumentIsColoured) {
 
 TEST_F(ContextMenu, OpensTheFileOfALink) {
   const TEditor& document = RightClick("<a href=\"c.html\">x</a>", 3);
-  EXPECT_EQ(Shown(document), "xmn_tagname xmn_item2");
+  EXPECT_EQ(Shown(document), "xmn_tagname xmn_item xmn_item2");
   EXPECT_EQ(Caption(document, "xmn_item2"), "Otwórz plik c.html"_pl);
   EXPECT_TRUE(test_.program.commands.RunMenu("xmn_item2"));
   EXPECT_EQ(test_.program.ActiveDocument->Caption(), test_.Path("work\\c.html"));
@@ -154,11 +154,11 @@ TEST_F(ContextMenu, JumpsToALabelAndLeavesItsNameInTheDialogResult) {
 }
 
 TEST_F(ContextMenu, OffersOnlyActionsThatExist) {
-  EXPECT_EQ(Shown(RightClick("<img src=\"a.jpg\">", 3)), "xmn_tagname");
+  EXPECT_EQ(Shown(RightClick("<img src=\"a.jpg\">", 3)), "xmn_tagname xmn_item");
   std::string mapped;
   test_.program.tagState.targetActions[TargetAction::MakeImageMap] = [&mapped](const std::string& path) { mapped = path; };
   const TEditor& document = RightClick("<img src=\"a.jpg\">", 3);
-  EXPECT_EQ(Shown(document), "xmn_tagname xmn_item2");
+  EXPECT_EQ(Shown(document), "xmn_tagname xmn_item xmn_item2");
   EXPECT_EQ(Caption(document, "xmn_item2"), "Utwórz mapę dla a.jpg"_pl);
   test_.program.commands.RunMenu("xmn_item2");
   EXPECT_EQ(mapped, test_.Path("work\\a.jpg"));

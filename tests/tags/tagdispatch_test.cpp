@@ -70,10 +70,10 @@ TEST(TagDispatch, CallsAnEditorThatIsThere) {
   int calls = 0;
   test.program.tagState.tagEditors["EditImage"] = [&calls] { ++calls; };
   EXPECT_TRUE(HasTagEditor(test.program, "<IMG>"));
-  EXPECT_FALSE(HasTagEditor(test.program, "<A>"));
+  EXPECT_FALSE(HasTagEditor(test.program, "<FORM>"));
   EXPECT_FALSE(HasTagEditor(test.program, "<P>"));
   EditTag(test.program, "<IMG>");
-  EditTag(test.program, "<A>");
+  EditTag(test.program, "<FORM>");
   EditTag(test.program, "<P>");
   EXPECT_EQ(calls, 1);
 }

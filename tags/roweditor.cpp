@@ -1,0 +1,65 @@
+#include "tags/roweditor.h"
+
+#include "core/defs.h"
+#include "core/text.h"
+#include "tags/alignlabels.h"
+#include "tags/insertcommands.h"
+#include "tags/tageditor.h"
+#include "tags/tagscan.h"
+
+namespace morlan {
+namespace {
+
+constexpr ReadWord kAlignRows[] = {{"left", 0}, {"right", 1}, {"center", 2}};
+// "center", which the middle row is written as, is not among the words that are read.
+constexpr ReadWord kValignRows[] = {{"top", 0}, {"middle", 1}, {"bottom", 2}, {"baseline", 3}};
+
+}  // namespace
+
+std::string RowText(const RowValues& values) {
+  TagText tag("<TR");
+  if (!values.align.empty()) tag.Quoted(" ALIGN=", UpperCase(AlignLabelToHtml(values.align)));
+  if (!values.valign.empty()) tag.Quoted(" VALIGN=", UpperCase(VAlignLabelToHtml(values.valign)));
+  tag.QuotedColour(" BGCOLOR=", values.backColour);
+  return tag.Close();
+}
+
+DTR::DTR(Program& program) : Form("DTR", "Wiersz tabeli"), program_(program) {
+  FillChoices(Align, {"Do lewej", "Do prawej", "Wycentrowane"});
+  FillChoices(Valign, {"U góry"_pl, "Na środku"_pl, "Na dole", "U podstawy linii"});
+  SetUpButtons(program, *this, Command2, Command1);
+  SetUpColourBox(program, fillwithcolor, isbackcolor);
+  Command2.OnClick = [this] {
+    Hide();
+    if (!EditsExisting(program_)) InsertPair(program_, Text(), "</TR>");
+  };
+  Align.SetToolTip("Położenie tekstu w komórkach wiersza w poziomie"_pl);
+  Valign.SetToolTip("Położenie tekstu w komórkach wiersza w pionie"_pl);
+  isbackcolor.SetToolTip("Wypełnia tło wiersza kolorem"_pl);
+  layout = layout::Rows(layout::Field("&Poziome", Align), layout::Field("Pio&nowe", Valign), layout::Columns(isbackcolor, fillwithcolor),
+                        layout::ButtonRow(Command2, Command1));
+}
+
+void DTR::Read(std::string_view tag) {
+  ShowBackColour(GetTagParam(tag, "BGCOLOR"), isbackcolor, fillwithcolor);
+  Align.SetListIndex(RowOfWord(kAlignRows, GetTagParam(tag, "ALIGN")));
+  Valign.SetListIndex(RowOfWord(kValignRows, GetTagParam(tag, "VALIGN")));
+}
+
+RowValues DTR::Values() const {
+  return {.align = Align.Text(), .valign = Valign.Text(), .backColour = BackColour(isbackcolor, fillwithcolor)};
+}
+
+std::string DTR::Text() const {
+  return TextWithStatus(program_, kTableStatus, [this] { return RowText(Values()); });
+}
+
+void EditRow(Program& program) {
+  DTR& form = program.forms.Get<DTR>();
+  form.Read(program.tagState.CurrentTagText);
+  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
+}
+
+void InsertRow(Program& program) { ShowForNew(program, program.forms.Get<DTR>()); }
+
+}  // namespace morlan
