@@ -5,6 +5,7 @@
 
 #include "platform/encoding.h"
 #include "platform/qt/qttext.h"
+#include "platform/signkeys.h"
 
 namespace morlan {
 namespace {
@@ -24,42 +25,12 @@ constexpr KeyRow kNamedKeys[] = {
     {Qt::Key_Menu, key::kMenu},
 };
 
-// Signs by the key that carries them on the Polish programmer's layout, without and with Shift.
-struct SignRow {
-  int plain;
-  int shifted;
-  int code;
-};
-constexpr SignRow kSignKeys[] = {
-    {';', ':', key::kSemicolon},
-    {'=', '+', key::kEquals},
-    {',', '<', key::kComma},
-    {'-', '_', key::kMinus},
-    {'.', '>', key::kPeriod},
-    {'/', '?', key::kSlash},
-    {'`', '~', key::kGrave},
-    {'[', '{', key::kOpenBracket},
-    {'\\', '|', key::kBackslash},
-    {']', '}', key::kCloseBracket},
-    {'\'', '"', key::kApostrophe},
-    {'0', ')', '0'},
-    {'1', '!', '1'},
-    {'2', '@', '2'},
-    {'3', '#', '3'},
-    {'4', '$', '4'},
-    {'5', '%', '5'},
-    {'6', '^', '6'},
-    {'7', '&', '7'},
-    {'8', '*', '8'},
-    {'9', '(', '9'},
-};
-
 int CodeOfKey(int qtKey) {
   if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return qtKey;
   if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F24) return key::kF1 + (qtKey - Qt::Key_F1);
   for (const KeyRow& row : kNamedKeys)
     if (row.qtKey == qtKey) return row.code;
-  for (const SignRow& row : kSignKeys)
+  for (const SignKey& row : kSignKeys)
     if (row.plain == qtKey || row.shifted == qtKey) return row.code;
   return 0;
 }

@@ -1,6 +1,7 @@
 #include "platform/script/typedkeys.h"
 
 #include "platform/encoding.h"
+#include "platform/signkeys.h"
 
 namespace morlan {
 namespace {
@@ -8,37 +9,8 @@ namespace {
 // The code of a character that comes from no key of the keyboard.
 constexpr int kNoKey = 231;
 
-struct SignRow {
-  char plain, shifted;
-  int code;
-};
-constexpr SignRow kSigns[] = {
-    {'1', '!', '1'},
-    {'2', '@', '2'},
-    {'3', '#', '3'},
-    {'4', '$', '4'},
-    {'5', '%', '5'},
-    {'6', '^', '6'},
-    {'7', '&', '7'},
-    {'8', '*', '8'},
-    {'9', '(', '9'},
-    {'0', ')', '0'},
-    {'-', '_', key::kMinus},
-    {'=', '+', key::kEquals},
-    {'[', '{', key::kOpenBracket},
-    {']', '}', key::kCloseBracket},
-    {'\\', '|', key::kBackslash},
-    {';', ':', key::kSemicolon},
-    {'\'', '"', key::kApostrophe},
-    {',', '<', key::kComma},
-    {'.', '>', key::kPeriod},
-    {'/', '?', key::kSlash},
-    {'`', '~', key::kGrave},
-    {' ', ' ', key::kSpace},
-    {'\t', '\t', key::kTab},
-    {'\r', '\r', key::kEnter},
-    {'\x1B', '\x1B', key::kEscape},
-};
+// Characters with a key of their own, whatever the shift keys.
+constexpr int kPlainKeys[] = {key::kSpace, key::kTab, key::kEnter, key::kEscape};
 
 // The letters behind the right Alt key, and the keys that bear them.
 constexpr std::string_view kPolishLetters = "ąćęłńóśźżĄĆĘŁŃÓŚŹŻ"_pl;
@@ -53,7 +25,9 @@ KeyPress KeyOfCharacter(char character) {
   const int code = static_cast<unsigned char>(character);
   if (IsCapital(character)) return {code, shift::kShift, code};
   if (IsSmall(character)) return {code - ('a' - 'A'), shift::kNone, code};
-  for (const SignRow& row : kSigns) {
+  for (const int plainKey : kPlainKeys)
+    if (plainKey == code) return {plainKey, shift::kNone, code};
+  for (const SignKey& row : kSignKeys) {
     if (row.plain == character) return {row.code, shift::kNone, code};
     if (row.shifted == character) return {row.code, shift::kShift, code};
   }
