@@ -16,22 +16,11 @@
 namespace morlan {
 namespace {
 
-using Command = void (*)(Program& program);
-
-struct EditorRow {
-  std::string_view editor;
-  Command edit;
-};
 constexpr EditorRow kEditors[] = {
     {"EditLine", EditLine},   {"EditBaseFont", EditBaseFont}, {"EditFont", EditFont}, {"EditEmbed", EditEmbed}, {"EditAnchor", EditAnchor},
     {"EditImage", EditImage}, {"EditTable", EditTable},       {"EditRow", EditRow},   {"EditCell", EditCell},
 };
 
-// A new tag: the toolbar's button, the menu's name and the form that opens. A blank column stands for none.
-struct InsertionRow {
-  std::string_view toolbar, key, menu, form;
-  Command insert;
-};
 // clang-format off
 constexpr InsertionRow kInsertions[] = {
     {"Toolbar1",  "line",      "mn_line",      "lineedit", InsertLine},
@@ -50,9 +39,9 @@ constexpr InsertionRow kInsertions[] = {
 
 }  // namespace
 
-void RegisterTagEditors(Program& program) {
-  for (const EditorRow& row : kEditors) program.tagState.tagEditors[std::string(row.editor)] = [&program, &row] { row.edit(program); };
-  for (const InsertionRow& row : kInsertions) {
+void RegisterEditors(Program& program, std::span<const EditorRow> editors, std::span<const InsertionRow> insertions) {
+  for (const EditorRow& row : editors) program.tagState.tagEditors[std::string(row.editor)] = [&program, &row] { row.edit(program); };
+  for (const InsertionRow& row : insertions) {
     const auto run = [&program, &row] {
       if (program.ActiveDocument) row.insert(program);
     };
@@ -61,5 +50,7 @@ void RegisterTagEditors(Program& program) {
     if (!row.form.empty()) program.forms.OnShow(row.form, run);
   }
 }
+
+void RegisterTagEditors(Program& program) { RegisterEditors(program, kEditors, kInsertions); }
 
 }  // namespace morlan
