@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/datetime.h"
+
 namespace morlan {
 
 struct DirectoryEntry {
@@ -34,6 +36,8 @@ class Files {
   virtual bool Copy(std::string_view from, std::string_view to) = 0;
   // Length in bytes; nothing for a directory or a file that cannot be reached.
   virtual std::optional<std::uint64_t> Size(std::string_view path) = 0;
+  // When the file's content changed last, in local time; nothing where Size has none.
+  virtual std::optional<DateTime> Modified(std::string_view path) = 0;
 
   virtual bool DirectoryExists(std::string_view path) = 0;
   virtual bool CreateDirectory(std::string_view path) = 0;

@@ -8,14 +8,9 @@
 #include <string_view>
 #include <vector>
 
-namespace morlan {
+#include "platform/datetime.h"
 
-struct DateTime {
-  int year = 1970, month = 1, day = 1;  // month and day from 1
-  int hour = 0, minute = 0, second = 0;
-  int dayOfWeek = 4;  // 0 is Sunday
-  bool operator==(const DateTime&) const = default;
-};
+namespace morlan {
 
 class Clock {
  public:

@@ -5,12 +5,13 @@
 
 namespace morlan {
 
-DateTime PosixClock::Now() {
-  const std::time_t now = std::time(nullptr);
+DateTime LocalTime(std::time_t moment) {
   std::tm local{};
-  ::localtime_r(&now, &local);
+  ::localtime_r(&moment, &local);
   return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec, local.tm_wday};
 }
+
+DateTime PosixClock::Now() { return LocalTime(std::time(nullptr)); }
 
 std::uint64_t PosixClock::Milliseconds() {
   const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();

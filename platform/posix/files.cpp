@@ -13,6 +13,7 @@
 
 #include "platform/encoding.h"
 #include "platform/lettercase.h"
+#include "platform/posix/clock.h"
 #include "platform/posix/filenames.h"
 #include "platform/posix/nativeio.h"
 
@@ -186,6 +187,13 @@ std::optional<std::uint64_t> PosixFiles::Size(std::string_view path) {
   const auto status = existing ? native::Status(*existing) : std::nullopt;
   if (!status || !S_ISREG(status->st_mode)) return std::nullopt;
   return static_cast<std::uint64_t>(status->st_size);
+}
+
+std::optional<DateTime> PosixFiles::Modified(std::string_view path) {
+  const std::optional<std::string> existing = Existing(path);
+  const auto status = existing ? native::Status(*existing) : std::nullopt;
+  if (!status || !S_ISREG(status->st_mode)) return std::nullopt;
+  return LocalTime(status->st_mtime);
 }
 
 bool PosixFiles::DirectoryExists(std::string_view path) {

@@ -22,6 +22,7 @@ class PosixFiles : public Files {
   bool Rename(std::string_view from, std::string_view to) override;
   bool Copy(std::string_view from, std::string_view to) override;  // replaces `to`
   std::optional<std::uint64_t> Size(std::string_view path) override;
+  std::optional<DateTime> Modified(std::string_view path) override;
 
   bool DirectoryExists(std::string_view path) override;
   bool CreateDirectory(std::string_view path) override;  // its parent must exist

@@ -90,6 +90,8 @@ std::optional<std::uint64_t> MemoryFiles::Size(std::string_view path) {
   return node && !node->isDirectory ? std::optional<std::uint64_t>(node->bytes.size()) : std::nullopt;
 }
 
+std::optional<DateTime> MemoryFiles::Modified(std::string_view path) { return Size(path) ? std::optional(modified) : std::nullopt; }
+
 bool MemoryFiles::DirectoryExists(std::string_view path) {
   if (Absolute(path) == kRoot) return !path.empty();
   const Node* node = Find(path);

@@ -12,6 +12,7 @@ namespace morlan {
 class MemoryFiles : public Files {
  public:
   bool failWrites = false;     // every change fails, as on a full or read-only disk
+  DateTime modified;           // of every file
   std::size_t writeCount = 0;  // changes of contents that took place
 
   std::optional<std::string> Read(std::string_view path) override;
@@ -22,6 +23,7 @@ class MemoryFiles : public Files {
   bool Rename(std::string_view from, std::string_view to) override;
   bool Copy(std::string_view from, std::string_view to) override;
   std::optional<std::uint64_t> Size(std::string_view path) override;
+  std::optional<DateTime> Modified(std::string_view path) override;
 
   bool DirectoryExists(std::string_view path) override;
   bool CreateDirectory(std::string_view path) override;
