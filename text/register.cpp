@@ -1,8 +1,15 @@
 #include "text/register.h"
 
+#include <utility>
+
 #include "core/defs.h"
+#include "core/paths.h"
+#include "text/amountinwords.h"
+#include "text/autoupdate.h"
 #include "text/documentcharset.h"
+#include "text/insertfileinfo.h"
 #include "text/jumptolabel.h"
+#include "text/momentforms.h"
 #include "text/search.h"
 #include "text/searchreplace.h"
 
@@ -12,6 +19,17 @@ namespace {
 template <class Dialog>
 void ShowDialog(Program& program) {
   program.platform.windows.ShowModal(program.forms.Get<Dialog>());
+}
+
+// A dialog that writes into the active document.
+template <class Dialog>
+void ShowInsertion(Program& program) {
+  if (program.ActiveDocument) ShowDialog<Dialog>(program);
+}
+
+// The pass that computes the stamps of the page of that path again.
+std::string UpdateStamps(Program& program, std::string text, std::string_view path) {
+  return UpdateBlocks(std::move(text), {program.platform.files, program.platform.clock.Now(), PathOf(path)});
 }
 
 struct CommandRow {
@@ -24,6 +42,11 @@ constexpr CommandRow kCommands[] = {
     {"xmn_replace", "replace", "SearchReplace", ShowDialog<SearchReplace>},
     {"xmn_findnext", "", "", FindNext},
     {"xmn_jumptolabel", "", "JumpToLabel", ShowDialog<JumpToLabel>},
+    {"xmn_insertdate", "", "InsertDate", ShowInsertion<InsertDate>},
+    {"xmn_inserttime", "", "InsertTime", ShowInsertion<InsertTime>},
+    {"xmn_insertfileinfo", "", "InsertFileInfo", ShowInsertion<InsertFileInfo>},
+    {"mn_valtostring", "", "", mn_valtostring_Click},
+    {"mn_words", "", "", mn_words_Click},
 };
 
 void RegisterCommands(Program& program) {
@@ -39,6 +62,9 @@ void RegisterCommands(Program& program) {
 
 void RegisterText(Program& program) {
   program.passes.decode = [&program](std::string text, std::string_view path) { return DecodeCharSet(program, std::move(text), path); };
+  program.passes.updateBlocks = [&program](std::string text, std::string_view path) {
+    return UpdateStamps(program, std::move(text), path);
+  };
   program.passes.markCharset = MarkCharSet;
   program.tagState.targetActions[TargetAction::JumpToLabel] = [&program](const std::string& label) { GoToLabel(program, label); };
   RegisterCommands(program);

@@ -1,10 +1,12 @@
 #include "platform/posix/files.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/encoding.h"
+#include "platform/posix/clock.h"
 #include "platform/posix/filenames.h"
 #include "tests/platform/nativefolder.h"
 
@@ -299,6 +301,16 @@ TEST_F(PosixFilesTest, PathsOfAbsurdLengthAreRefused) {
     EXPECT_FALSE(files.Write(path, "x"));
     EXPECT_FALSE(files.DirectoryExists(path));
   }
+}
+
+TEST_F(PosixFilesTest, TellsWhenAFileChanged) {
+  folder.Put("a.html", "a");
+  const std::time_t noon = 889268400;  // the 7th of March 1998 at 11:00 in London
+  const timespec times[2] = {{noon, 0}, {noon, 0}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, (folder.path / "a.html").c_str(), times, 0), 0);
+  EXPECT_EQ(files.Modified(P("A.HTML")), LocalTime(noon));
+  EXPECT_EQ(files.Modified(P("brak.html")), std::nullopt);
+  EXPECT_EQ(files.Modified(P()), std::nullopt) << "a directory";
 }
 
 }  // namespace
