@@ -35,6 +35,7 @@ class BenchProgram {
     document_->EditedText.SetText(std::move(text));
     program_.passes.colourDocument(document_->EditedText);
   }
+  Program& program() { return program_; }
   TEditor& document() { return *document_; }
 
  private:
