@@ -2,6 +2,7 @@
 
 #include "core/defs.h"
 #include "core/register.h"
+#include "macros/register.h"
 #include "tags/register.h"
 #include "text/register.h"
 
@@ -11,6 +12,7 @@ void Assemble(Program& program) {
   RegisterCore(program);
   RegisterTags(program);
   RegisterText(program);
+  RegisterMacros(program);
 }
 
 }  // namespace morlan

@@ -1,10 +1,12 @@
 #include "core/document.h"
 
+#include "core/colourtext.h"
 #include "core/defs.h"
 #include "core/documents.h"
 #include "core/filetag.h"
 #include "core/morlan.h"
 #include "core/paths.h"
+#include "core/settings.h"
 #include "core/sizetext.h"
 #include "core/status.h"
 #include "core/text.h"
@@ -16,24 +18,20 @@ namespace {
 constexpr std::string_view kDocumentTag = "edytor";
 constexpr int kModifiedImage = 1;
 
-// A setting that counts as switched on until it is stored otherwise.
-bool OnUnlessStored(INIFile& settings, std::string_view item, std::string_view subItem) {
-  const std::string value = settings.GetSubItemValue(item, subItem);
-  return value.empty() || TextToBool(value);
+FontChoice StoredFont(Settings& settings) {
+  return {.name = settings.Text(Setting::FontName),
+          .size = settings.Number(Setting::FontSize),
+          .bold = settings.Flag(Setting::FontBold),
+          .italic = settings.Flag(Setting::FontItalic),
+          .underline = settings.Flag(Setting::FontUnderline),
+          .strikeThrough = settings.Flag(Setting::FontStrikeThrough)};
 }
 
-FontChoice StoredFont(INIFile& settings) {
-  constexpr std::string_view kItem = "EditorFont";
-  constexpr double kLargestSize = 200;
-  FontChoice font;
-  const double size = LeadingNumber(settings.GetSubItemValue(kItem, "FontSize"));
-  if (size >= 1 && size <= kLargestSize) font.size = size;
-  font.name = settings.GetSubItemValue(kItem, "FontName");
-  font.bold = TextToBool(settings.GetSubItemValue(kItem, "FontBold"));
-  font.italic = TextToBool(settings.GetSubItemValue(kItem, "FontItalic"));
-  font.underline = TextToBool(settings.GetSubItemValue(kItem, "FontUnderline"));
-  font.strikeThrough = TextToBool(settings.GetSubItemValue(kItem, "FontStrikeThrough"));
-  return font;
+// The colour of text that nothing paints: the font's own one, if there is one, holds where colouring is switched off.
+Colour PlainColour(Program& program) {
+  const TagState& colours = program.tagState;
+  const std::string ofFont = colours.UseColorize ? std::string() : Settings(program.MainIni).Text(Setting::FontColor);
+  return ofFont.empty() ? colours.GlobalColor : HexToRgb(ofFont);
 }
 
 }  // namespace
@@ -67,17 +65,21 @@ void TEditor::Form_Initialize() {
 }
 
 void TEditor::Form_Load() {
-  INIFile& settings = program_.MainIni;
+  TakeSettings();
+  EditedText.SetWordWrap(menu.IsChecked("xmn_warp"));
+}
+
+void TEditor::TakeSettings() {
+  Settings settings(program_.MainIni);
   EditedText.SetFont(StoredFont(settings));
   TakeColours();
-  EditedText.SetupCarret = OnUnlessStored(settings, "Hint", "SetupCarret");
-  EditedText.ExtendLI = OnUnlessStored(settings, "Hint", "LIExtend");
-  EditedText.SetWordWrap(menu.IsChecked("xmn_warp"));
+  EditedText.SetupCarret = settings.Flag(Setting::SetupCarret);
+  EditedText.ExtendLI = settings.Flag(Setting::ExtendLI);
 }
 
 void TEditor::TakeColours() {
   const TagState& colours = program_.tagState;
-  EditedText.SetTextColor(colours.GlobalColor);
+  EditedText.SetTextColor(PlainColour(program_));
   EditedText.TagColor = colours.TagsColor;
   EditedText.ParameterColor = colours.LinksColor;
   EditedText.CommentColor = colours.CommentsColor;

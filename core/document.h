@@ -48,6 +48,11 @@ class TEditor : public Form {
   // False when the user cancels.
   bool Form_Unload();
 
+  // Font, colours and what Enter types, from the settings; they hold from now on.
+  void TakeSettings();
+  void TakeColours();
+  void HideHints();
+
   // Colours what the user's last edit reaches.
   void ProcessLine();
   void ShowLineInfo();
@@ -74,9 +79,7 @@ class TEditor : public Form {
   void InsertBr(KeyPress& press);
   void RunShortcut(KeyPress& press);
   void ShowHints();
-  void HideHints();
   void MarkAsModified();
-  void TakeColours();
 
   Program& program_;
   std::size_t shownLength_ = 0;  // the length that the size panel tells

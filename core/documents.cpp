@@ -4,6 +4,7 @@
 
 #include "core/closing.h"
 #include "core/document.h"
+#include "core/frmbrowser.h"
 #include "core/frontend.h"
 #include "core/morlan.h"
 #include "core/paths.h"
@@ -92,6 +93,12 @@ void Settle(Program& program, TEditor& document, std::string text, std::string_v
   EnableToolbars(program);
 }
 
+// A document's window comes forward, and the viewer leaves its place to it.
+void ComeForward(Program& program, TEditor& document) {
+  HideViewer(program);
+  program.frontEnd.DocumentActivated(document);
+}
+
 void SetActive(Program& program, TEditor& document) {
   program.ActiveDocument = &document;
   program.ActiveEditor = &document.EditedText;
@@ -108,8 +115,19 @@ TEditor* FindDocument(Program& program, std::string_view caption) {
   return nullptr;
 }
 
-void NewEmptyDocument(Program& program) {
-  TEditor& document = MakeDocument(program, UniqueHtmlName(program));
+FileRequest OpenRequest(const Program& program) {
+  FileRequest request;
+  request.title = "Otwórz dokument"_pl;
+  request.filter = "Pliki HTML (*.HTML,*.HTM,*SHTM)|*.html;*.htm;*.shtm|Pliki kanałów inf. (*.CDF)|*.cdf|Wszystkie pliki (*.*)|*.*|"_pl;
+  if (program.ActiveDocument) request.directory = program.ActiveDocument->LastDir.Caption();
+  return request;
+}
+
+void NewEmptyDocument(Program& program) { NewDocumentOfName(program, UniqueHtmlName(program)); }
+
+void NewDocumentOfName(Program& program, std::string_view caption) {
+  TEditor& document = MakeDocument(program, caption);
+  if (!PathOf(caption).empty()) document.FileType.SetCaption(FileTypeOf(caption));
   AddTab(program, document);
   document.NeedToBeSaved.SetCaption("False");
   EnableToolbars(program);
@@ -132,7 +150,7 @@ void OpenDocument(Program& program, std::string_view path) {
   program.frontEnd.DocumentOpened(document);
   document.Form_Activate();
   ShowReady(program);
-  program.frontEnd.DocumentActivated(document);
+  ComeForward(program, document);
   document.EditedText.SetFocus();
 }
 
@@ -149,7 +167,7 @@ bool OpenDocumentAs(Program& program, std::string_view path, std::string_view ti
   Settle(program, document, std::move(text), path);
   SetActive(program, document);
   program.frontEnd.DocumentOpened(document);
-  program.frontEnd.DocumentActivated(document);
+  ComeForward(program, document);
   document.EditedText.SetFocus();
   program.DocumentLoading = false;
   document.Form_Load();
@@ -159,7 +177,7 @@ bool OpenDocumentAs(Program& program, std::string_view path, std::string_view ti
 }
 
 void ActivateDocument(Program& program, TEditor& document) {
-  program.frontEnd.DocumentActivated(document);
+  ComeForward(program, document);
   document.Form_Activate();
   document.EditedText.SetFocus();
 }

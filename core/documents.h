@@ -11,8 +11,12 @@ namespace morlan {
 std::string UniqueHtmlName(Program& program);
 std::string UniqueCdfName(Program& program);
 void NewEmptyDocument(Program& program);
+// The same under a path, where its first save will write it.
+void NewDocumentOfName(Program& program, std::string_view caption);
 // Brings forward the window that has the path, or opens one. A missing file gets its message.
 void OpenDocument(Program& program, std::string_view path);
+// The dialog that asks for a file to open.
+FileRequest OpenRequest(const Program& program);
 // Opens a file's text under another title. False when there is no such file.
 bool OpenDocumentAs(Program& program, std::string_view path, std::string_view title);
 void SaveDocument(Program& program);

@@ -11,6 +11,7 @@ constexpr MenuRow kRows[] = {
     {0, "xmn_item", "&Edytuj znacznik..."},
     {0, "xmn_item2", ""},
     {0, "xmn_item3", ""},
+    {0, "xmn_properties", "Właściwości z&nacznika..."_pl},
     {0, "xmn_editmenuline", "-"},
     {0, "xmn_undo", "&Cofnij"},
     {0, "", "-"},

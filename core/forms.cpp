@@ -1,5 +1,7 @@
 #include "core/forms.h"
 
+#include <algorithm>
+
 #include "platform/lettercase.h"
 
 namespace morlan {
@@ -13,6 +15,10 @@ bool FormCollection::ShowByName(std::string_view name) {
     return true;
   }
   return false;
+}
+
+bool FormCollection::CanShow(std::string_view name) const {
+  return std::any_of(shows_.begin(), shows_.end(), [&](const auto& show) { return EqualNoCase(show.first, name); });
 }
 
 std::vector<std::string> FormCollection::Names() const {

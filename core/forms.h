@@ -29,6 +29,7 @@ class FormCollection {
   // How a form is opened by its name, as its own command does.
   void OnShow(std::string_view name, std::function<void()> show);
   bool ShowByName(std::string_view name);  // false when no form has that name
+  bool CanShow(std::string_view name) const;
   std::vector<std::string> Names() const;
   // A form that was made already, without regard to case; null when there is none.
   Form* FindMade(std::string_view name);

@@ -3,16 +3,19 @@
 #include "core/document.h"
 #include "core/documents.h"
 #include "core/morlan.h"
+#include "core/settings.h"
 #include "core/text.h"
 
 namespace morlan {
 namespace {
 
-constexpr std::string_view kItem = "LastOpened";
+std::string Stored(Program& program, std::size_t index) {
+  return Settings(program.MainIni).Text(Setting::LastOpened, static_cast<int>(index));
+}
 
-std::string SubItem(std::size_t index) { return Concat({"Item", NumberText(static_cast<std::int64_t>(index))}); }
-
-std::string Stored(Program& program, std::size_t index) { return program.MainIni.GetSubItemValue(kItem, SubItem(index)); }
+void Store(Program& program, std::size_t index, std::string_view path) {
+  Settings(program.MainIni).SetText(Setting::LastOpened, path, static_cast<int>(index));
+}
 
 }  // namespace
 
@@ -34,8 +37,8 @@ void OpenLastOpened(Program& program, std::size_t index) {
 void RememberOpened(Program& program, std::string_view path) {
   for (std::size_t i = 0; i < kLastOpenedCount; ++i)
     if (EqualNoCase(Stored(program, i), path)) return;
-  for (std::size_t i = kLastOpenedCount - 1; i > 0; --i) program.MainIni.SetSubItemValue(kItem, SubItem(i), Stored(program, i - 1));
-  program.MainIni.SetSubItemValue(kItem, SubItem(0), path);
+  for (std::size_t i = kLastOpenedCount - 1; i > 0; --i) Store(program, i, Stored(program, i - 1));
+  Store(program, 0, path);
   ShowLastOpened(program, program.frame().menu);
 }
 

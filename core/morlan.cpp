@@ -5,6 +5,7 @@
 #include "core/defs.h"
 #include "core/document.h"
 #include "core/documents.h"
+#include "core/preview.h"
 #include "core/text.h"
 #include "core/timers.h"
 #include "core/toolbars.h"
@@ -63,9 +64,10 @@ Morlan::Morlan(Program& program) : Form("Morlan", "Morlan7 - Edytor HTML - Wersj
   SSTab1.Add({.key = "files", .text = "Pliki", .tag = ""});
   SSTab1.Select(0);
   CDFObject.SetVisible(false);
-  // Nothing offers an internal preview that these two could switch to.
-  SelEditor.SetVisible(false);
-  SelViewer.SetVisible(false);
+  SelEditor.SetToolTip("Powrót do edycji tekstu (Esc)"_pl);
+  SelEditor.OnClick = [&program] { SelEditor_Click(program); };
+  SelViewer.SetToolTip("Strona w oknie edytora (Shift+F5)");
+  SelViewer.OnClick = [&program] { SelViewer_Click(program); };
   Timer1.OnTimer = [&program] { Timer1_Timer(program); };
   TimeCounter.OnTimer = [&program] { TimeCounter_Timer(program); };
 }

@@ -4,6 +4,7 @@
 #include "core/filepanel.h"
 #include "core/morlan.h"
 #include "core/paths.h"
+#include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
 
@@ -19,7 +20,7 @@ void SetMeta(Program& program, std::string_view name, std::string_view content) 
 
 // The META tags of a new page; `quote` goes in front of the charset's name.
 void SetPageMeta(Program& program, std::string_view quote) {
-  const std::string charset = program.MainIni.GetSubItemValue("Document", "Charset");
+  const std::string charset = Settings(program.MainIni).Text(Setting::CharSet);
   SetMeta(program, "Content-Type", Concat({"text/html;CHARSET=", quote, charset}));
   SetMeta(program, "Generator", GeneratorText);
 }
@@ -55,8 +56,9 @@ NewDoc::NewDoc(Program& program) : Form("NewDoc", "Nowy dokument"), program_(pro
       program_.DialogChoice = newdoc::kCancelled;
       Hide();
     };
-  DocList.SetAccessibleName("Typ dokumentu");
-  TempList.SetAccessibleName("Wybierz szablon");
+  TempList.OnDblClick = Command6.OnClick;
+  DocList.SetToolTip("Szablony, od których można zacząć nowy dokument"_pl).SetAccessibleName("Typ dokumentu");
+  TempList.SetToolTip("Szablony do zmiany; podwójne kliknięcie otwiera wybrany"_pl).SetAccessibleName("Wybierz szablon");
   defaultButton = &Command1;
   cancelButton = &Command2;
   layout = layout::Pages(layout::Group("Typ dokumentu", DocList, layout::ButtonRow(Command1, Command2)),

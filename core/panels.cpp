@@ -3,19 +3,16 @@
 #include "core/filepanel.h"
 #include "core/morlan.h"
 #include "core/programmenus.h"
-#include "core/status.h"
 
 namespace morlan {
 namespace {
 
-constexpr std::string_view kItem = "LayOut";
-
 constexpr PanelRow kPanels[] = {
-    {"WindowsManager", "xmn_windowsmanager_visible", [](Morlan& frame) -> Control& { return frame.WindowsPanel; }},
-    {"StatusBar", "xmn_status_visible", [](Morlan& frame) -> Control& { return frame.statusBar; }},
-    {"CommandLine", "xmn_tools_visible", [](Morlan& frame) -> Control& { return frame.commandline; }},
-    {"FileManager", "xmn_filemanager_visible", [](Morlan& frame) -> Control& { return frame.Menadzerplikow; }},
-    {"Symbols", "xmn_symbols_visible", [](Morlan& frame) -> Control& { return frame.UnderChars; }},
+    {Setting::WindowsManager, "xmn_windowsmanager_visible", [](Morlan& frame) -> Control& { return frame.WindowsPanel; }},
+    {Setting::StatusBar, "xmn_status_visible", [](Morlan& frame) -> Control& { return frame.statusBar; }},
+    {Setting::CommandLine, "xmn_tools_visible", [](Morlan& frame) -> Control& { return frame.commandline; }},
+    {Setting::FileManager, "xmn_filemanager_visible", [](Morlan& frame) -> Control& { return frame.Menadzerplikow; }},
+    {Setting::Symbols, "xmn_symbols_visible", [](Morlan& frame) -> Control& { return frame.UnderChars; }},
 };
 
 }  // namespace
@@ -23,15 +20,14 @@ constexpr PanelRow kPanels[] = {
 std::span<const PanelRow> PanelRows() { return kPanels; }
 
 void ShowStoredPanels(Program& program) {
-  for (const PanelRow& panel : kPanels)
-    panel.control(program.frame()).SetVisible(TextToBool(program.MainIni.GetSubItemValue(kItem, panel.key)));
+  for (const PanelRow& panel : kPanels) panel.control(program.frame()).SetVisible(Settings(program.MainIni).Flag(panel.setting));
   for (Menu* menu : AllMenus(program)) MarkPanels(program.frame(), *menu);
 }
 
 void TogglePanel(Program& program, const PanelRow& panel) {
   Control& control = panel.control(program.frame());
   control.SetVisible(!control.Visible());
-  program.MainIni.SetSubItemValue(kItem, panel.key, control.Visible() ? "True" : "False");
+  Settings(program.MainIni).SetFlag(panel.setting, control.Visible());
   for (Menu* menu : AllMenus(program)) MarkPanels(program.frame(), *menu);
   ListFilePanelIfWanted(program);
 }

@@ -6,11 +6,12 @@
 
 #include "core/defs.h"
 #include "core/menus.h"
+#include "core/settings.h"
 
 namespace morlan {
 
 struct PanelRow {
-  std::string_view key;   // sub-item of LayOut
+  Setting setting;        // of the item LayOut
   std::string_view menu;  // the entry that bears its mark
   Control& (*control)(Morlan& frame);
 };

@@ -1,7 +1,10 @@
 #include "core/register.h"
 
 #include "core/about.h"
+#include "core/alwaysview.h"
+#include "core/browsers.h"
 #include "core/clipboard.h"
+#include "core/configuration.h"
 #include "core/document.h"
 #include "core/documents.h"
 #include "core/filepanel.h"
@@ -11,6 +14,7 @@
 #include "core/newdoc.h"
 #include "core/panels.h"
 #include "core/paths.h"
+#include "core/preview.h"
 #include "core/printing.h"
 
 namespace morlan {
@@ -18,11 +22,7 @@ namespace {
 
 void ChooseDocument(Program& program) {
   EnableToolbars(program);
-  FileRequest request;
-  request.title = "Otwórz dokument"_pl;
-  request.filter = "Pliki HTML (*.HTML,*.HTM,*SHTM)|*.html;*.htm;*.shtm|Pliki kanałów inf. (*.CDF)|*.cdf|Wszystkie pliki (*.*)|*.*|"_pl;
-  if (program.ActiveDocument) request.directory = program.ActiveDocument->LastDir.Caption();
-  const std::string name = program.platform.windows.AskFile(request).value_or("");
+  const std::string name = program.platform.windows.AskFile(OpenRequest(program)).value_or("");
   if (name.empty()) return;
   MoveFilePanel(program, PathOf(name));
   RefreshFilePanel(program);
@@ -72,6 +72,10 @@ constexpr CommandRow kCommands[] = {
     {"xmn_saveas", "", SaveDocumentAs},
     {"xmn_close", "Close", CloseActiveDocument},
     {"xmn_closeall", "", CloseAllDocuments},
+    {"xmn_preview", "view", PreviewDocument},
+    {"mn_internal_view", "", SelViewer_Click},
+    {"mn_browsers", "", ShowBrowsers},
+    {"mn_alwaysview", "", ShowAlwaysView},
     {"xmn_print", "print", PrintDocument},
     {"xmn_quit", "", [](Program& program) { QuitProgram(program); }},
     {"xmn_undo", "undo", Undo},
@@ -84,6 +88,7 @@ constexpr CommandRow kCommands[] = {
     {"xmn_ModeCdf", "", SetCdfMode},
     {"xmn_nextdocument", "", [](Program& program) { ActivateNextDocument(program, 1); }},
     {"xmn_previousdocument", "", [](Program& program) { ActivateNextDocument(program, -1); }},
+    {"xmn_configuration", "", ShowConfiguration},
     {"xmn_about", "", ShowAbout},
 };
 
@@ -99,6 +104,11 @@ void RegisterCore(Program& program) {
     program.commands.OnMenu(LastOpenedRow(i), [&program, i] { OpenLastOpened(program, i); });
   for (const PanelRow& panel : PanelRows()) program.commands.OnMenu(panel.menu, [&program, &panel] { TogglePanel(program, panel); });
   program.forms.OnShow("NewDoc", [&program] { NewDocument(program); });
+  program.forms.OnShow("frmBrowser", [&program] { SelViewer_Click(program); });
+  program.forms.OnShow("AlwaysView", [&program] { ShowAlwaysView(program); });
+  program.forms.OnShow("Browsers", [&program] { ShowBrowsers(program); });
+  program.forms.OnShow("configuration", [&program] { ShowConfiguration(program); });
+  program.commands.OnToolbar("Toolbar20", "config", [&program] { ShowConfiguration(program); });
   program.forms.OnShow("about", [&program] { ShowAbout(program); });
 }
 

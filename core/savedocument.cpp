@@ -4,6 +4,7 @@
 #include "core/documents.h"
 #include "core/morlan.h"
 #include "core/paths.h"
+#include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
 #include "core/windowslist.h"
@@ -47,7 +48,7 @@ std::string MakeBackup(Program& program, std::string_view path) {
 
 // The backup is a copy and the file is replaced in one go, so that a failed write leaves everything as it was.
 bool WriteWithBackup(Program& program, std::string_view path, std::string_view bytes) {
-  const bool wanted = TextToBool(program.MainIni.GetSubItemValue("Document", "CreateBackup"));
+  const bool wanted = Settings(program.MainIni).Flag(Setting::CreateBackup);
   const std::string backup = wanted ? MakeBackup(program, path) : std::string();
   if (program.platform.files.Write(path, bytes)) return true;
   if (!backup.empty()) program.platform.files.Delete(backup);

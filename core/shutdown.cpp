@@ -4,6 +4,7 @@
 #include "core/frontend.h"
 #include "core/morlan.h"
 #include "core/paths.h"
+#include "core/settings.h"
 #include "core/text.h"
 
 namespace morlan {
@@ -15,10 +16,10 @@ bool AskToEnd(Program& program) {
 }
 
 void StoreSession(Program& program) {
-  for (std::size_t i = 0; i < program.frame().Chars2.size(); ++i)
-    program.MainIni.SetSubItemValue("UserSymbols", Concat({"Symbol", NumberText(static_cast<std::int64_t>(i))}),
-                                    program.frame().Chars2[i]->Caption());
-  program.MainIni.SetSubItemValue("ProgramAccess", "StartPath", CurrentPanelDirectory(program));
+  Settings settings(program.MainIni);
+  int number = 0;
+  for (const auto& symbol : program.frame().Chars2) settings.SetText(Setting::UserSymbol, symbol->Caption(), number++);
+  settings.SetText(Setting::StartPath, CurrentPanelDirectory(program));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The start-up sequence. Its order is fixed: each step may rely on those above it, and a failed one is passed over.
 #include <cstdio>
 
+#include "core/applysettings.h"
 #include "core/documents.h"
 #include "core/filepanel.h"
 #include "core/lastopened.h"
@@ -9,6 +10,7 @@
 #include "core/panels.h"
 #include "core/paths.h"
 #include "core/programmenus.h"
+#include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
 #include "core/toolbars.h"
@@ -35,7 +37,7 @@ void OpenMainStore(Program& program) {
   program.DocumentLoading = false;
   program.MainIni.Init(ConfigurationFile(program));
   PrepareProfile(program);
-  const std::string stored = program.MainIni.GetSubItemValue("ProgramAccess", "ProgramPath");
+  const std::string stored = Settings(program.MainIni).Text(Setting::ProgramPath);
   // A store that cannot be written leaves the path empty, which would mean the root of the drive.
   program.ProgramPath = WithBackslash(stored.empty() ? program.platform.environment.UserDataDirectory() : stored);
 }
@@ -55,10 +57,10 @@ void SetGlobals(Program& program) {
 void CheckConfiguration(Program& program) {
   INIFile store(program.platform.files);
   store.Init(ConfigurationFile(program));
-  if (EqualNoCase(store.GetSubItemValue("Setup", "Installation"), "ok")) return;
+  if (EqualNoCase(Settings(store).Text(Setting::Installation), "ok")) return;
   if (!program.platform.files.Copy(program.ProgramPath + "Morlan7.ini", ConfigurationFile(program)))
     ShowError(program, "Uaktualnienie pliku konfiguracyjnego nie możliwe !"_pl);
-  store.SetSubItemValue("ProgramAccess", "ProgramPath", program.ProgramPath);
+  Settings(store).SetText(Setting::ProgramPath, program.ProgramPath);
 }
 
 // The names, without their extension, of a directory's files that match a pattern.
@@ -90,15 +92,9 @@ void FillLists(Program& program) {
   frame.Chars.AddItems(letters);
 }
 
-void ReadAutoSave(Program& program) {
-  program.AutoSaveInterval = LeadingInteger(program.MainIni.GetSubItemValue("AutoSave", "AutoSaveTime"));
-  if (!TextToBool(program.MainIni.GetSubItemValue("AutoSave", "AutoSaveActivated"))) program.AutoSaveInterval = 0;
-}
-
 void SetUpSymbols(Program& program) {
-  for (std::size_t i = 0; i < program.frame().Chars2.size(); ++i)
-    program.frame().Chars2[i]->SetCaption(
-        program.MainIni.GetSubItemValue("UserSymbols", Concat({"Symbol", NumberText(static_cast<std::int64_t>(i))})));
+  int number = 0;
+  for (const auto& symbol : program.frame().Chars2) symbol->SetCaption(Settings(program.MainIni).Text(Setting::UserSymbol, number++));
 }
 
 // Shows the buttons that have a command and a tab for each toolbar that has a button.
@@ -117,12 +113,6 @@ void SetUpToolbars(Program& program) {
   EnableToolbars(program);
 }
 
-void ReadHints(Program& program) {
-  const std::string show = program.MainIni.GetSubItemValue("Hint", "Show");
-  program.HintShow = show.empty() || TextToBool(show);
-  program.HintShowList = show.empty() || TextToBool(program.MainIni.GetSubItemValue("Hint", "ShowList"));
-}
-
 void OpenFirstDocument(Program& program) {
   const std::string file = program.platform.environment.CommandLine();
   if (FileExists(program, file)) {
@@ -130,7 +120,7 @@ void OpenFirstDocument(Program& program) {
     OpenDocument(program, file);
   } else {
     NewEmptyDocument(program);
-    MoveFilePanel(program, program.MainIni.GetSubItemValue("ProgramAccess", "StartPath"));
+    MoveFilePanel(program, Settings(program.MainIni).Text(Setting::StartPath));
   }
   ListFilePanelIfWanted(program);
 }
@@ -147,8 +137,8 @@ void AssociateShell(Program& program) {
 void PrepareProfile(Program& program) {
   INIFile store(program.platform.files);
   store.Init(ConfigurationFile(program));
-  if (store.GetSubItemValue("ProgramAccess", "ProgramPath").empty())
-    store.SetSubItemValue("ProgramAccess", "ProgramPath", WithBackslash(program.platform.environment.UserDataDirectory()));
+  if (!Settings(store).IsStored(Setting::ProgramPath))
+    Settings(store).SetText(Setting::ProgramPath, WithBackslash(program.platform.environment.UserDataDirectory()));
 }
 
 void StartUp(Program& program) {

@@ -1,6 +1,7 @@
 #include "core/status.h"
 
 #include "core/document.h"
+#include "core/frmbrowser.h"
 #include "core/frontend.h"
 #include "core/morlan.h"
 #include "core/text.h"
@@ -65,6 +66,7 @@ void FocusActiveDocument(Program& program) {
   if (!IsAnyDocumentOpen(program)) return;
   program.platform.windows.Yield();
   if (!program.ActiveDocument) return;
+  if (FrmBrowser* viewer = ShownViewer(program)) return viewer->brwWebBrowser.SetFocus();
   program.frontEnd.DocumentActivated(*program.ActiveDocument);
   program.ActiveEditor->SetFocus();
 }
@@ -88,15 +90,17 @@ bool IsInList(Program& program, std::string_view text, std::string_view listFile
   return content && HasLine(*content, text);
 }
 
-void RememberInList(Program& program, ComboBox& box, std::string_view listFile) {
-  if (box.Text().empty()) return;
+void RememberInList(Program& program, ComboBox& box, std::string_view listFile) { RememberInList(program, box.Text(), listFile); }
+
+void RememberInList(Program& program, std::string_view text, std::string_view listFile) {
+  if (text.empty()) return;
   Files& files = program.platform.files;
   const std::string path = Concat({program.ProgramPath, listFile});
   const std::string content = files.Read(path).value_or("");
-  if (HasLine(content, box.Text())) return;
+  if (HasLine(content, text)) return;
   // A last line without its end would swallow the new one.
   const bool open = !content.empty() && content.back() != '\n' && content.back() != '\r';
-  files.Append(path, Concat({open ? CrLf : "", box.Text(), CrLf}));
+  files.Append(path, Concat({open ? CrLf : "", text, CrLf}));
 }
 
 void SortComboBox(Program& program, ComboBox& box) {

@@ -23,6 +23,7 @@ bool TextToBool(std::string_view text);  // "true" in any case; all else is fals
 void LoadComboFromList(Program& program, ComboBox& box, std::string_view listFile);
 bool IsInList(Program& program, std::string_view text, std::string_view listFile);
 void RememberInList(Program& program, ComboBox& box, std::string_view listFile);
+void RememberInList(Program& program, std::string_view text, std::string_view listFile);
 void SortComboBox(Program& program, ComboBox& box);
 void LoadFontNames(Program& program, ComboBox& box);
 

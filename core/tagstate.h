@@ -4,11 +4,14 @@
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "platform/colour.h"
 
 namespace morlan {
+
+class PropertySheets;
 
 // What can be done with the place that a tag points at.
 enum class TargetAction { PlaySound, PreviewPicture, MakeImageMap, JumpToLabel, OpenFile, PreviewPage };
@@ -34,6 +37,9 @@ struct TagState {
   // The actions on what a tag points at, supplied likewise: they take a file's path in the program's form, or the name of
   // a label without its "#".
   std::map<TargetAction, std::function<void(const std::string& target)>> targetActions;
+
+  // What is known of tags and their attributes, read when it is first asked for.
+  std::shared_ptr<PropertySheets> propertySheets;
 };
 
 }  // namespace morlan

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morlan {
 
@@ -16,11 +17,17 @@ struct TextPasses {
   std::function<std::string(std::string text, std::string_view path)> decode;
   std::function<std::string(std::string text)> encode;
   std::function<std::string(std::string text, std::string_view path)> updateBlocks;
+  // Text of a named set to the text that is edited.
+  std::function<std::string(std::string text, std::string_view charset)> fromCharset;
   // Ticks the character-set entries of a document's menu by the text's META tag.
   std::function<void(TEditor& document)> markCharset;
 
   // Reads the colour settings and gives them to all open documents.
   std::function<void()> loadColours;
+  // Colours the open documents anew if ColoursChanged is set.
+  std::function<void()> recolourAll;
+  // The names of the character sets that documents can be kept in.
+  std::function<std::vector<std::string>()> charsetNames;
   std::function<void(MlnEditor& editor)> colourDocument;
   // Positions from 1; below 1 they mean the first and the last character.
   std::function<void(MlnEditor& editor, std::ptrdiff_t from, std::ptrdiff_t to)> colourBlock;

@@ -1,11 +1,17 @@
 #include "tags/anchoreditor.h"
 
 #include "core/defs.h"
+#include "core/status.h"
 #include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
 namespace morlan {
+namespace {
+
+constexpr std::string_view kAddresses = "Listy\\HREF.lst";
+
+}  // namespace
 
 std::string AnchorText(const AnchorValues& values) {
   TagText tag("<A");
@@ -17,7 +23,11 @@ anchor::anchor(Program& program) : Form("anchor", "Odnośniki"_pl) {
   for (const std::string_view target : {"_blank", "_parent", "_self", "_top"}) parm.AddItem(target);
   SetUpButtons(program, *this, Command2, Command1);
   SetUpFileButton(program, hrefFile, href, kPageFiles);
-  Command2.OnClick = [this] { Hide(); };
+  OnLoad = [this, &program] { RefillFromList(program, href, kAddresses); };
+  Command2.OnClick = [this, &program] {
+    RememberInList(program, href, kAddresses);
+    Hide();
+  };
   Command1.OnClick = [this] {
     href.SetText("");
     Hide();
@@ -25,6 +35,7 @@ anchor::anchor(Program& program) : Form("anchor", "Odnośniki"_pl) {
   href.SetToolTip("Adres, do którego prowadzi odnośnik"_pl);
   etykieta.SetToolTip("Nazwa tego miejsca, do której mogą prowadzić odnośniki"_pl);
   parm.SetToolTip("Okno albo ramka, w której otworzy się strona"_pl);
+  href.WidthInCharacters = 36;
   layout = layout::Rows(layout::Field("&HREF", href, &hrefFile), layout::Field("&Etykieta", etykieta), layout::Field("&TARGET", parm),
                         layout::ButtonRow(Command2, Command1));
 }

@@ -12,13 +12,13 @@ namespace morlan {
 class Program;
 
 struct AnchorValues {
-  std::string href, etykieta, parm;
+  std::string href{}, etykieta{}, parm{};
 };
 std::string AnchorText(const AnchorValues& values);
 
-// An empty HREF counts as cancelled, also for a tag that has only a NAME.
+// An empty HREF counts as cancelled, also for a tag that has only a NAME. The list of addresses remembers what was confirmed.
 struct anchor : Form {
-  TextBox href{*this, "href"};
+  ComboBox href{*this, "href"};
   Button hrefFile{*this, "hrefFile", "..."};
   TextBox etykieta{*this, "etykieta"};
   ComboBox parm{*this, "parm"};

@@ -47,11 +47,16 @@ DTH::DTH(Program& program) : Form("DTH", "Komórka tabeli"_pl), program_(program
     Hide();
     if (!EditsExisting(program_)) InsertPair(program_, Text(), kind_ == CellKind::Header ? "</TH>" : "</TD>");
   };
+  szer.WidthInCharacters = wys.WidthInCharacters = 8;
+  rowspawn.WidthInCharacters = colspawn.WidthInCharacters = 8;
+  align.WidthInCharacters = valign.WidthInCharacters = 18;
   SetUpToolTips();
-  layout = layout::Rows(layout::Field("&Tło"_pl, tlo, &tloFile), layout::Field("&Szerokość"_pl, szer), layout::Field("W&ysokość"_pl, wys),
-                        layout::Field("Obejmij wie&rszy", rowspawn), layout::Field("Obejmij ko&lumn", colspawn), nowarp2,
-                        layout::Columns(isbackcolor2, fillwithcolor2), layout::Field("&Poziome", align), layout::Field("Piono&we", valign),
-                        layout::ButtonRow(Command2, Command1));
+  using namespace layout;
+  const Layout ground = Group("Wypełnienie"_pl, Field("&Tło"_pl, tlo, &tloFile), Columns(isbackcolor2, fillwithcolor2));
+  const Layout size = Group("Wymiary", Field("&Szerokość"_pl, szer), Field("W&ysokość"_pl, wys), Field("Obejmij wie&rszy", rowspawn),
+                            Field("Obejmij ko&lumn", colspawn));
+  const Layout place = Group("Położenie tekstu"_pl, Field("&Poziome", align), Field("Piono&we", valign), nowarp2);
+  Form::layout = Rows(ground, Columns(size, place), ButtonRow(Command2, Command1));
 }
 
 void DTH::SetUpToolTips() {

@@ -16,10 +16,10 @@ enum class CellKind { Cell, Header };
 
 struct CellValues {
   int align = -1, valign = -1;  // rows of CellAlign and CellVAlign
-  std::string tlo;
-  std::optional<Colour> backColour;
+  std::string tlo{};
+  std::optional<Colour> backColour{};
   bool nowarp = false;
-  std::string szer, wys, rowspawn, colspawn;
+  std::string szer{}, wys{}, rowspawn{}, colspawn{};
 };
 // ROWSPAWN, COLSPAWN and NOWARP are spelt like this in the document.
 std::string CellText(CellKind kind, const CellValues& values);

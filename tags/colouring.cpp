@@ -6,19 +6,16 @@
 
 #include "core/defs.h"
 #include "core/document.h"
+#include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
-#include "tags/colours.h"
 #include "tags/gaptext.h"
 
 namespace morlan {
 namespace {
 
-constexpr std::string_view kItem = "Colorize";
 constexpr std::string_view kDocumentStatus = "Kolorowanie dokumentu...";
 constexpr std::string_view kBlockStatus = "Kolorowanie bloku";
-
-Colour StoredColour(Program& program, std::string_view key) { return HexToRgb(program.MainIni.GetSubItemValue(kItem, key)); }
 
 // Collects the new styles of a stretch that grows token by token.
 class PaintedStretch {
@@ -93,18 +90,15 @@ void ColorizeBlock(Program& program, MlnEditor& editor, std::ptrdiff_t from, std
 
 void LoadColours(Program& program) {
   TagState& state = program.tagState;
-  state.UseColorize = TextToBool(program.MainIni.GetSubItemValue(kItem, "UseColorize"));
-  state.GlobalColor = StoredColour(program, "GlobalColor");
-  state.TagsColor = StoredColour(program, "TagsColor");
-  state.LinksColor = StoredColour(program, "LinksColor");
-  state.CommentsColor = StoredColour(program, "CommentsColor");
+  Settings settings(program.MainIni);
+  state.UseColorize = settings.Flag(Setting::UseColorize);
+  state.GlobalColor = settings.ColourOf(Setting::GlobalColor);
+  state.TagsColor = settings.ColourOf(Setting::TagsColor);
+  state.LinksColor = settings.ColourOf(Setting::LinksColor);
+  state.CommentsColor = settings.ColourOf(Setting::CommentsColor);
   for (const auto& document : program.documents) {
-    MlnEditor& editor = document->EditedText;
-    editor.UseColorise = state.UseColorize;
-    editor.SetTextColor(state.GlobalColor);
-    editor.TagColor = state.TagsColor;
-    editor.ParameterColor = state.LinksColor;
-    editor.CommentColor = state.CommentsColor;
+    document->EditedText.UseColorise = state.UseColorize;
+    document->TakeColours();
   }
 }
 

@@ -9,26 +9,27 @@ namespace {
 
 struct OptionRow {
   std::string_view caption, tag;
+  std::optional<Colour> sample;
 };
 
 // "silwer" goes into documents as it stands.
 constexpr std::array<OptionRow, 16> kOptions = {{
-    {"Niezdefiniowany", ""},
-    {"Amarant", "fuchsia"},
-    {"Ciemnozielony", "green"},
-    {"Czarny", "black"},
-    {"Czerwony", "red"},
-    {"Granatowy", "navy"},
-    {"Kasztanowy", "maroon"},
-    {"Mlecznoniebieski", "aqua"},
-    {"Niebieski", "blue"},
-    {"Oliwkowy", "olive"},
-    {"Purpurowy", "purple"},
-    {"Srebrny", "silver"},
-    {"Szary", "silwer"},
-    {"Żółty"_pl, "yellow"},
-    {"Użytkownika"_pl, "user"},
-    {"Biały"_pl, "white"},
+    {"Niezdefiniowany", "", std::nullopt},
+    {"Amarant", "fuchsia", RgbColour(0xFF, 0x00, 0xFF)},
+    {"Ciemnozielony", "green", RgbColour(0x00, 0x80, 0x00)},
+    {"Czarny", "black", RgbColour(0x00, 0x00, 0x00)},
+    {"Czerwony", "red", RgbColour(0xFF, 0x00, 0x00)},
+    {"Granatowy", "navy", RgbColour(0x00, 0x00, 0x80)},
+    {"Kasztanowy", "maroon", RgbColour(0x80, 0x00, 0x00)},
+    {"Mlecznoniebieski", "aqua", RgbColour(0x00, 0xFF, 0xFF)},
+    {"Niebieski", "blue", RgbColour(0x00, 0x00, 0xFF)},
+    {"Oliwkowy", "olive", RgbColour(0x80, 0x80, 0x00)},
+    {"Purpurowy", "purple", RgbColour(0x80, 0x00, 0x80)},
+    {"Srebrny", "silver", RgbColour(0xC0, 0xC0, 0xC0)},
+    {"Szary", "silwer", RgbColour(0x80, 0x80, 0x80)},
+    {"Żółty"_pl, "yellow", RgbColour(0xFF, 0xFF, 0x00)},
+    {"Użytkownika"_pl, "user", std::nullopt},
+    {"Biały"_pl, "white", RgbColour(0xFF, 0xFF, 0xFF)},
 }};
 constexpr std::size_t kUndefined = 0, kUser = 14, kWhite = 15;
 constexpr std::string_view kNotChosen = kOptions[kUser].tag;
@@ -42,7 +43,9 @@ ColourOptions::ColourOptions(Program& program, Form& form, ColourBox& sample, Wh
     options_[i] = std::make_unique<OptionButton>(form, name, kOptions[i].caption, "kolory", i == kUndefined);
     options_[i]->Tag = kOptions[i].tag;
     options_[i]->SetToolTip(i == kUndefined ? "Znacznik nie określa koloru"_pl : "Kolor, który określi znacznik"_pl);
-    if (i != kUser) options_[i]->OnClick = [this, i] { sample_.SetValue(ColorNameToValue(options_[i]->Tag)); };
+    options_[i]->sample = kOptions[i].sample;
+    options_[i]->showsSample = true;
+    options_[i]->OnClick = [this, i] { ShowSample(kOptions[i].sample); };
   }
   if (white == WhiteOption::IsNotSeen) options_[kWhite]->Tag = "White";
   options_[kUser]->OnClick = [this] { AskUserColour(); };
@@ -51,6 +54,13 @@ ColourOptions::ColourOptions(Program& program, Form& form, ColourBox& sample, Wh
     Select(kUser);
     AskUserColour();
   };
+}
+
+void ColourOptions::ShowSample(std::optional<Colour> colour) {
+  if (colour)
+    sample_.SetValue(*colour);
+  else
+    sample_.Unset();
 }
 
 void ColourOptions::Select(std::size_t index) { options_[index]->SetValue(true); }

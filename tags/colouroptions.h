@@ -33,6 +33,7 @@ class ColourOptions {
   Layout Page() const;
 
  private:
+  void ShowSample(std::optional<Colour> colour);
   void Select(std::size_t index);
   std::size_t Selected() const;
   void AskUserColour();

@@ -12,6 +12,8 @@
 #include "core/paths.h"
 #include "core/status.h"
 #include "core/text.h"
+#include "tags/propertysheets.h"
+#include "tags/propertytext.h"
 #include "tags/tagdispatch.h"
 #include "tags/tagscan.h"
 
@@ -52,9 +54,9 @@ constexpr std::string_view kEditedOnly[] = {
     "startdate",    "description", "category",
 };
 
-constexpr std::string_view kNameEntry = "xmn_tagname", kEditEntry = "xmn_item";
+constexpr std::string_view kNameEntry = "xmn_tagname", kEditEntry = "xmn_item", kSheetEntry = "xmn_properties";
 constexpr std::array<std::string_view, 2> kActionEntries = {"xmn_item2", "xmn_item3"};
-constexpr std::string_view kTagEntries[] = {kNameEntry, kEditEntry, kActionEntries[0], kActionEntries[1]};
+constexpr std::string_view kTagEntries[] = {kNameEntry, kEditEntry, kActionEntries[0], kActionEntries[1], kSheetEntry};
 
 bool Contains(std::span<const std::string_view> words, std::string_view word) {
   return std::find(words.begin(), words.end(), word) != words.end();
@@ -122,6 +124,8 @@ class ContextMenu {
     const std::string name = LowerCase(GetTagName(found.text));
     const std::string caption = Concat({"<", UpperCase(name), ">"});
     document.xmnm_editpopup.SetCaption(kNameEntry, caption);
+    document.xmnm_editpopup.SetVisible(kSheetEntry, true);
+    document.xmnm_editpopup.SetEnabled(kSheetEntry, HasPropertySheet(program_, TagNameOf(found.text)));
     const TagOffer offer = OfferFor(program_, found.text, name, PathOf(document.Caption()));
     if (offer.isKnown) ShowTagEntries(document.xmnm_editpopup, offer, caption);
   }

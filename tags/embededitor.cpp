@@ -52,6 +52,9 @@ embed::embed(Program& program) : Form("embed", "Embed") {
   wyrownanie.SetToolTip("Położenie obiektu względem tekstu"_pl);
   midi0.SetToolTip("Odtwarza plik zaraz po wczytaniu strony");
   midi1.SetToolTip("Odtwarza plik bez końca"_pl);
+  for (TextBox* box : {&szerokosc, &wysokosc, &ramka}) box->WidthInCharacters = 8;
+  wyrownanie.WidthInCharacters = 12;
+  source.WidthInCharacters = 36;
   layout = layout::Rows(layout::Field("Ź&ródło"_pl, source, &sourceFile), layout::Field("S&zerokość"_pl, szerokosc),
                         layout::Field("&Wysokość"_pl, wysokosc), layout::Field("Ra&mka", ramka),
                         layout::Field("W&yrównanie"_pl, wyrownanie), layout::Columns(midi0, midi1), layout::ButtonRow(Command2, Command1));

@@ -12,8 +12,8 @@ namespace morlan {
 class Program;
 
 struct EmbedValues {
-  std::string source, szerokosc, wysokosc, ramka;
-  std::string wyrownanie;  // the word for the document; empty for none
+  std::string source{}, szerokosc{}, wysokosc{}, ramka{};
+  std::string wyrownanie{};  // the word for the document; empty for none
   bool autoStart = false, loop = false;
 };
 // Only a file of the type "mid" has its two switches written. A line end follows the tag.

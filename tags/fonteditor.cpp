@@ -54,6 +54,7 @@ Fonty::Fonty(Program& program) : Form("Fonty", "Czcionka chwilowa"), kolory(prog
   Rozmiar.SetToolTip("Wielkość czcionki od 1 do 7, ze znakiem: zmiana wielkości podstawowej"_pl);
   Znak.SetToolTip("Plus powiększa, minus pomniejsza, bez znaku wielkość jest bezwzględna"_pl);
   Czcionka.SetToolTip("Krój pisma; musi być zainstalowany u czytelnika"_pl);
+  Rozmiar.WidthInCharacters = Znak.WidthInCharacters = 4;
   layout = layout::Rows(layout::Field("&Rozmiar", Rozmiar), layout::Field("&Znak", Znak), layout::Field("&Czcionka", Czcionka),
                         kolory.Page(), layout::ButtonRow(Command2, Command1));
 }
@@ -67,6 +68,7 @@ void Fonty::Read(std::string_view tag) {
   Czcionka.SetText(row >= 0 ? Czcionka.List(static_cast<std::size_t>(row)) : face);
   kolory.SelectValue(LowerCase(colour));
   wzor.SetValue(colour.empty() ? Colour{} : ColorNameToValue(colour));
+  if (colour.empty()) wzor.Unset();
 }
 
 FontValues Fonty::Values() const {

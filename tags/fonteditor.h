@@ -11,9 +11,9 @@
 namespace morlan {
 
 struct FontValues {
-  std::string znak, rozmiar;  // the sign and the number behind it
-  std::string czcionka;
-  std::optional<std::string> colour;  // the word for the document
+  std::string znak{}, rozmiar{};  // the sign and the number behind it
+  std::string czcionka{};
+  std::optional<std::string> colour{};  // the word for the document
 };
 // `name` is "BASEFONT" or "FONT".
 std::string FontText(std::string_view name, const FontValues& values);

@@ -28,13 +28,15 @@ image::image(Program& program) : Form("image", "Grafika") {
     source.SetText("");
     Hide();
   };
+  for (TextBox* box : {&szerokosc, &wysokosc, &ramka, &vspace, &hspace}) box->WidthInCharacters = 8;
+  wyrownanie.WidthInCharacters = 12;
+  source.WidthInCharacters = 36;
   SetUpToolTips();
-  layout = layout::Rows(
-      layout::Field("Ź&ródło"_pl, source, &sourceFile), layout::Field("Zastępczy &tekst"_pl, alt), layout::Field("&Użyj mapy"_pl, usemap),
-      layout::Field("&Szerokość"_pl, szerokosc), layout::Field("&Wysokość"_pl, wysokosc), layout::Field("Ra&mka", ramka),
-      layout::Field("Wyrów&nanie"_pl, wyrownanie), ismap,
-      layout::Group("Odległość tekstu od rysunku"_pl, layout::Field("W &pionie", vspace), layout::Field("W po&ziomie ", hspace)),
-      layout::ButtonRow(Command2, Command1));
+  using namespace layout;
+  const Layout size = Group("Wymiary", Field("&Szerokość"_pl, szerokosc), Field("&Wysokość"_pl, wysokosc), Field("Ra&mka", ramka));
+  const Layout distances = Group("Odległość tekstu od rysunku"_pl, Field("W &pionie", vspace), Field("W po&ziomie ", hspace));
+  Form::layout = Rows(Field("Ź&ródło"_pl, source, &sourceFile), Field("Zastępczy &tekst"_pl, alt), Field("&Użyj mapy"_pl, usemap),
+                      Columns(size, distances), Field("Wyrów&nanie"_pl, wyrownanie), ismap, ButtonRow(Command2, Command1));
 }
 
 void image::SetUpToolTips() {

@@ -12,8 +12,8 @@ namespace morlan {
 class Program;
 
 struct ImageValues {
-  std::string source, alt, usemap, szerokosc, wysokosc, ramka, vspace, hspace;
-  std::string wyrownanie;  // the word for the document; empty for none
+  std::string source{}, alt{}, usemap{}, szerokosc{}, wysokosc{}, ramka{}, vspace{}, hspace{};
+  std::string wyrownanie{};  // the word for the document; empty for none
   bool ismap = false;
 };
 // A map is written with a "#" in front, whether it was given with one or not.

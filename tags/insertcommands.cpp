@@ -59,6 +59,17 @@ void ReplaceSelection(Program& program, std::string_view text) {
   editor.SetFocus();
 }
 
+void ReplaceStretch(Program& program, std::size_t offset, std::size_t length, std::string_view text) {
+  if (!program.ActiveDocument) return;
+  MlnEditor& editor = program.ActiveDocument->EditedText;
+  const std::string old = editor.Slice(offset, length);
+  if (old == text) return;
+  program.ActiveDocument->UNDO.AddChange(offset, 0, text, old, ChangeKind::Replacement);
+  editor.Select(offset, length);
+  editor.SetSelText(text);
+  ColourEdited(program, editor, offset, offset + text.size());
+}
+
 void RegisterInsertCommands(Program& program) {
   for (const PairRow& row : PairRows()) {
     const auto run = [&program, &row] { InsertPair(program, row.open, row.close); };

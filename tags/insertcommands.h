@@ -1,6 +1,7 @@
 // The one writer of inserted markup, and the commands that go through it.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace morlan {
@@ -16,6 +17,10 @@ void RepeatLastInsertion(Program& program);
 
 // Puts a text in the place of the selection, as one undo step that gives the selection back.
 void ReplaceSelection(Program& program, std::string_view text);
+
+// Puts a text in the place of `length` characters at an offset of the active document, as one undo step. The caret ends
+// behind it. Nothing happens when that text stands there already.
+void ReplaceStretch(Program& program, std::size_t offset, std::size_t length, std::string_view text);
 
 // The commands that insert a fixed pair, and the repeat command.
 void RegisterInsertCommands(Program& program);

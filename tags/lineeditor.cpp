@@ -38,6 +38,8 @@ lineedit::lineedit(Program& program) : Form("lineedit", "Linie"), kolory(program
   Wysokosc.SetToolTip("Grubość linii w punktach"_pl);
   Wyrownanie.SetToolTip("Położenie linii krótszej niż okno"_pl);
   BezCienia.SetToolTip("Rysuje linię płaską, bez wrażenia wgłębienia"_pl);
+  Dlugosc.WidthInCharacters = Wysokosc.WidthInCharacters = 8;
+  Wyrownanie.WidthInCharacters = 12;
   layout = layout::Rows(layout::Field("&Długość"_pl, Dlugosc), layout::Field("&Wysokość"_pl, Wysokosc),
                         layout::Field("Wy&równanie"_pl, Wyrownanie), BezCienia, kolory.Page(), layout::ButtonRow(Command1, Command2));
 }

@@ -11,10 +11,10 @@
 namespace morlan {
 
 struct LineValues {
-  std::string dlugosc, wysokosc;  // as they go into the document
-  std::string wyrownanie;         // a label; empty for none
+  std::string dlugosc{}, wysokosc{};  // as they go into the document
+  std::string wyrownanie{};           // a label; empty for none
   bool bezCienia = false;
-  std::optional<std::string> colour;  // the word for the document
+  std::optional<std::string> colour{};  // the word for the document
 };
 std::string LineText(const LineValues& values);
 

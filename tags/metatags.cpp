@@ -6,7 +6,6 @@
 #include "core/defs.h"
 #include "core/document.h"
 #include "core/text.h"
-#include "tags/editedcolouring.h"
 #include "tags/insertcommands.h"
 #include "tags/tagscan.h"
 
@@ -119,17 +118,6 @@ std::size_t Moved(std::size_t offset, const Change& change) {
   return offset - change.removed + change.inserted.size();
 }
 
-// The way of a change into the active document.
-void ReplaceTag(Program& program, const Change& change) {
-  MlnEditor& editor = *program.ActiveEditor;
-  const std::string old = editor.Slice(change.offset, change.removed);
-  if (old == change.inserted) return;
-  program.ActiveDocument->UNDO.AddChange(change.offset, 0, change.inserted, old, ChangeKind::Replacement);
-  editor.Select(change.offset, change.removed);
-  editor.SetSelText(change.inserted);
-  ColourEdited(program, editor, change.offset, change.offset + change.inserted.size());
-}
-
 void InsertAt(Program& program, const Change& change) {
   program.ActiveEditor->Select(change.offset, 0);
   InsertPair(program, change.inserted, "");
@@ -169,7 +157,7 @@ void SetMeta(Program& program, std::string_view attribute, std::string_view name
   std::size_t caret = editor.SelStart();
   if (auto tag = FindMetaTag(editor.Text(), name)) {
     tag->inserted = meta;
-    ReplaceTag(program, *tag);
+    ReplaceStretch(program, tag->offset, tag->removed, tag->inserted);
     return editor.Select(Moved(caret, *tag), 0);
   }
   auto place = PlaceOfNewMeta(editor.Text(), meta);

@@ -1,13 +1,18 @@
 #include "tags/register.h"
 
 #include "core/defs.h"
+#include "tags/channeleditors.h"
 #include "tags/colouring.h"
 #include "tags/contextmenu.h"
 #include "tags/editedcolouring.h"
+#include "tags/frameeditors.h"
 #include "tags/insertcommands.h"
 #include "tags/metatags.h"
+#include "tags/pageeditors.h"
+#include "tags/properties.h"
 #include "tags/quickmenu.h"
 #include "tags/selectioncommands.h"
+#include "tags/servertags.h"
 #include "tags/symbols.h"
 #include "tags/tageditors.h"
 #include "tags/taglist.h"
@@ -18,6 +23,7 @@ namespace {
 void RegisterPasses(Program& program) {
   TextPasses& passes = program.passes;
   passes.loadColours = [&program] { LoadColours(program); };
+  passes.recolourAll = [&program] { RecolourAll(program); };
   passes.colourDocument = [&program](MlnEditor& editor) { ColorizeDocument(program, editor); };
   passes.colourBlock = [&program](MlnEditor& editor, std::ptrdiff_t from, std::ptrdiff_t to) { ColorizeBlock(program, editor, from, to); };
   passes.colourEdited = [&program](MlnEditor& editor, std::size_t from, std::size_t to) { ColourEdited(program, editor, from, to); };
@@ -46,6 +52,11 @@ void RegisterTags(Program& program) {
   RegisterQuickMenu(program);
   RegisterContextMenu(program);
   RegisterTagEditors(program);
+  RegisterFrameEditors(program);
+  RegisterPageEditors(program);
+  RegisterChannelEditors(program);
+  RegisterServerTags(program);
+  RegisterPropertySheets(program);
 }
 
 }  // namespace morlan

@@ -36,6 +36,7 @@ DTR::DTR(Program& program) : Form("DTR", "Wiersz tabeli"), program_(program) {
   Align.SetToolTip("Położenie tekstu w komórkach wiersza w poziomie"_pl);
   Valign.SetToolTip("Położenie tekstu w komórkach wiersza w pionie"_pl);
   isbackcolor.SetToolTip("Wypełnia tło wiersza kolorem"_pl);
+  Align.WidthInCharacters = Valign.WidthInCharacters = 18;
   layout = layout::Rows(layout::Field("&Poziome", Align), layout::Field("Pio&nowe", Valign), layout::Columns(isbackcolor, fillwithcolor),
                         layout::ButtonRow(Command2, Command1));
 }

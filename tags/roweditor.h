@@ -13,8 +13,8 @@ namespace morlan {
 class Program;
 
 struct RowValues {
-  std::string align, valign;  // labels; empty for none
-  std::optional<Colour> backColour;
+  std::string align{}, valign{};  // labels; empty for none
+  std::optional<Colour> backColour{};
 };
 std::string RowText(const RowValues& values);
 

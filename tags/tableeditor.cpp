@@ -35,14 +35,16 @@ Tabela::Tabela(Program& program) : Form("Tabela", "Tabela"), program_(program) {
     Hide();
     if (!EditsExisting(program_)) InsertPair(program_, Text(), "</TABLE>");
   };
+  for (TextBox* box : {&border, &Height_, &Width_, &cellspacing, &cellpadding}) box->WidthInCharacters = 8;
   SetUpToolTips();
-  layout = layout::Rows(
-      layout::Field("&Grudość ramki"_pl, border), layout::Field("&Wysokość tabeli "_pl, Height_),
-      layout::Field("&Szerokość tabeli"_pl, Width_), layout::Field("&Tło"_pl, background, &backgroundFile),
-      layout::Columns(isbackcolor, fillwithcolor),
-      layout::Group("Położenie tabeli względem tekstu"_pl, layout::Field("&Poziome", align), layout::Field("Pio&nowe", valign)), noflow,
-      nowarp, layout::Field("O&dległość między komórkami"_pl, cellspacing), layout::Field("Od&ległość ramki od tekstu"_pl, cellpadding),
-      layout::ButtonRow(Command2, Command1));
+  using namespace layout;
+  const Layout size =
+      Group("Wymiary", Field("&Grudość ramki"_pl, border), Field("&Wysokość tabeli "_pl, Height_), Field("&Szerokość tabeli"_pl, Width_));
+  const Layout ground = Group("Wypełnienie"_pl, Field("&Tło"_pl, background, &backgroundFile), Columns(isbackcolor, fillwithcolor));
+  const Layout place = Group("Położenie tabeli względem tekstu"_pl, Field("&Poziome", align), Field("Pio&nowe", valign), noflow, nowarp);
+  const Layout distances =
+      Group("Odległości"_pl, Field("O&dległość między komórkami"_pl, cellspacing), Field("Od&ległość ramki od tekstu"_pl, cellpadding));
+  Form::layout = Rows(Columns(size, ground), Columns(place, distances), ButtonRow(Command2, Command1));
 }
 
 void Tabela::SetUpToolTips() {

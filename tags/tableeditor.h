@@ -13,11 +13,11 @@ namespace morlan {
 class Program;
 
 struct TableValues {
-  std::string border, height, width, background;
-  std::optional<Colour> backColour;
+  std::string border{}, height{}, width{}, background{};
+  std::optional<Colour> backColour{};
   int align = -1, valign = -1;  // rows of TableAlign and TableVAlign
   bool noflow = false, nowarp = false;
-  std::string cellspacing, cellpadding;
+  std::string cellspacing{}, cellpadding{};
 };
 std::string TableText(const TableValues& values);
 

@@ -25,6 +25,14 @@ std::string DirectoryOfDocument(Program& program) {
   return directory.empty() ? program.platform.files.CurrentDirectory() : directory;
 }
 
+template <class Field>
+void SetUpFileButtonOf(Program& program, Button& button, Field& field, std::string_view filter) {
+  button.SetToolTip("Wybiera plik z dysku").SetAccessibleName("Wybierz plik");
+  button.OnClick = [&program, &field, filter] {
+    if (const auto link = AskForLink(program, filter)) field.UserSets(*link);
+  };
+}
+
 }  // namespace
 
 const std::string_view kPictureFiles = "Pliki graficzne|*.gif;*.jpg;*.jpeg;*.png;*.svg;*.webp;*.bmp|Wszystkie pliki|*.*";
@@ -132,10 +140,18 @@ std::optional<std::string> AskForLink(Program& program, std::string_view filter)
 }
 
 void SetUpFileButton(Program& program, Button& button, TextBox& field, std::string_view filter) {
-  button.SetToolTip("Wybiera plik z dysku").SetAccessibleName("Wybierz plik");
-  button.OnClick = [&program, &field, filter] {
-    if (const auto link = AskForLink(program, filter)) field.UserSets(*link);
-  };
+  SetUpFileButtonOf(program, button, field, filter);
+}
+
+void SetUpFileButton(Program& program, Button& button, ComboBox& field, std::string_view filter) {
+  SetUpFileButtonOf(program, button, field, filter);
+}
+
+void RefillFromList(Program& program, ComboBox& box, std::string_view listFile) {
+  const std::string text = box.Text();
+  box.Clear();
+  LoadComboFromList(program, box, listFile);
+  box.SetText(text);
 }
 
 void SetUpColourBox(Program& program, ColourBox& sample, CheckBox& isUsed) {

@@ -92,6 +92,10 @@ std::optional<std::string> AskForLink(Program& program, std::string_view filter)
 
 // A click on the button asks for a file and puts the way to it from the active document into the field.
 void SetUpFileButton(Program& program, Button& button, TextBox& field, std::string_view filter);
+void SetUpFileButton(Program& program, Button& button, ComboBox& field, std::string_view filter);
+
+// Gives a box the rows that its list file ("Listy\HREF.lst") has by now, since dialogs share files; what it holds stays.
+void RefillFromList(Program& program, ComboBox& box, std::string_view listFile);
 
 // A click on the sample asks for a colour; choosing one ticks the box that stands for it.
 void SetUpColourBox(Program& program, ColourBox& sample, CheckBox& isUsed);

@@ -5,29 +5,10 @@
 namespace morlan {
 namespace {
 
-TEST(Colours, HexPairsAreReadInAnyCaseAndUnchecked) {
-  EXPECT_EQ(HexPairToByte("00"), 0);
-  EXPECT_EQ(HexPairToByte("7f"), 0x7F);
-  EXPECT_EQ(HexPairToByte("FF"), 0xFF);
-  EXPECT_EQ(HexPairToByte("1G"), 0x20);
-  EXPECT_EQ(HexPairToByte(""), 0);
-}
-
-TEST(Colours, DigitsReadRedFirst) {
-  EXPECT_EQ(HexToRgb("FF8001"), RgbColour(0xFF, 0x80, 0x01));
-  EXPECT_EQ(HexToRgb(""), 0u);
-}
-
 TEST(Colours, ShortNumbersHaveNoughtsInFront) {
   EXPECT_EQ(HexToLong("FF0000"), 0xFF0000u);
   EXPECT_EQ(HexToLong("80"), 0x80u);
   EXPECT_EQ(HexToLong("8080"), 0x8080u);
-}
-
-TEST(Colours, AreWrittenRedFirst) {
-  EXPECT_EQ(ColorToHex(RgbColour(0xFF, 0x80, 0x01)), "FF8001");
-  EXPECT_EQ(ColorToHex(0), "000000");
-  EXPECT_EQ(HexToRgb(ColorToHex(0x00ABCDEF)), 0x00ABCDEFu);
 }
 
 struct NamedColourRow {

@@ -85,6 +85,7 @@ TEST_F(ContextMenu, KnowsTheTagsThatAreOnlyEdited) {
 }
 
 TEST_F(ContextMenu, NamesTheTagAndHidesTheEditEntryWithoutAnEditor) {
+  test_.program.tagState.tagEditors.erase("EditForm");
   const TEditor& document = RightClick("a <form method=get> b", 6);
   EXPECT_EQ(Shown(document), "xmn_tagname");
   EXPECT_EQ(Caption(document, "xmn_tagname"), "<FORM>");

@@ -111,5 +111,22 @@ TEST_F(InsertCommands, AReplacedSelectionComesBackSelected) {
   EXPECT_EQ(editor.SelText(), "abc");
 }
 
+TEST_F(InsertCommands, AStretchGivesWayAsOneStep) {
+  MlnEditor& editor = Open("x abc y", 0, 0);
+  ReplaceStretch(program(), 2, 3, "<I>d</I>");
+  EXPECT_EQ(test_.Text(), "x <I>d</I> y");
+  EXPECT_NE(editor.StyleAt(2), MlnEditor::kPlain);
+  EXPECT_EQ(editor.SelStart(), 10u);
+  Undo();
+  EXPECT_EQ(test_.Text(), "x abc y");
+}
+
+TEST_F(InsertCommands, AStretchThatStandsThereAlreadyIsNoChange) {
+  Open("x abc y", 0, 0);
+  ReplaceStretch(program(), 2, 3, "abc");
+  EXPECT_FALSE(program().ActiveDocument->IsModified());
+  EXPECT_EQ(program().ActiveDocument->UNDO.Count(), 0u);
+}
+
 }  // namespace
 }  // namespace morlan

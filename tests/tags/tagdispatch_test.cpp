@@ -68,6 +68,7 @@ TEST(TagDispatch, CaptionsAreComparedExactly) {
 TEST(TagDispatch, CallsAnEditorThatIsThere) {
   TestProgram test(TestProgram::Start::No);
   int calls = 0;
+  test.program.tagState.tagEditors.clear();
   test.program.tagState.tagEditors["EditImage"] = [&calls] { ++calls; };
   EXPECT_TRUE(HasTagEditor(test.program, "<IMG>"));
   EXPECT_FALSE(HasTagEditor(test.program, "<FORM>"));

@@ -1,0 +1,57 @@
+#include "tags/channelitem.h"
+
+#include "core/defs.h"
+#include "core/text.h"
+#include "tags/insertcommands.h"
+#include "tags/tageditor.h"
+#include "tags/tagscan.h"
+
+namespace morlan {
+
+std::string ItemText(const ItemValues& values) {
+  TagText tag("<ITEM");
+  tag.Quoted(" HREF=", values.href).Quoted(" LASTMOD=", values.modDate).Quoted(" PRECACHE=", values.preCache);
+  return tag.Quoted(" LEVEL=", values.level).Close();
+}
+
+Channel_Item::Channel_Item(Program& program) : ServerDialog(program, "Channel_Item", "Element kanału"_pl) {
+  Remember(HREF, "Listy\\CHHref.lst");
+  FillChoices(PreCache, {"YES", "NO"});
+  SetUp(Command2, Command1);
+  SetUpFileButton(program, hrefFile, HREF, kPageFiles);
+  HREF.WidthInCharacters = 32;
+  Level.WidthInCharacters = 6;
+  HREF.SetToolTip("Strona, do której prowadzi element"_pl);
+  ModDate.SetToolTip("Kiedy strona zmieniła się ostatnio"_pl);
+  PreCache.SetToolTip("Czy przeglądarka ma pobrać stronę zawczasu"_pl);
+  Level.SetToolTip("Na ile odnośników w głąb pobrać strony zawczasu"_pl);
+  layout =
+      layout::Rows(layout::Field("Adres &URL (do zawartości dokumentu)"_pl, HREF, &hrefFile), layout::Field("&Data modyfikacji", ModDate),
+                   layout::Field("Wzór daty"_pl, sample), layout::Field("&Załaduj do pamięci podręcznej (CACHE)"_pl, PreCache),
+                   layout::Field("&Poziom zagnieżdżania odnośników"_pl, Level), layout::ButtonRow(Command2, Command1));
+}
+
+void Channel_Item::Read(std::string_view tag) {
+  HREF.SetText(GetTagTextParam(tag, "href"));
+  PreCache.SetListIndex(PreCache.ListFind(GetTagTextParam(tag, "precache")));
+  Level.SetText(GetTagTextParam(tag, "level"));
+  ModDate.SetText(GetTagTextParam(tag, "lastmod"));
+}
+
+std::string Channel_Item::Result() const {
+  return ItemText({.href = HREF.Text(), .modDate = ModDate.Text(), .preCache = PreCache.Text(), .level = Level.Text()});
+}
+
+void EditItem(Program& program) {
+  Channel_Item& form = program.forms.Get<Channel_Item>();
+  form.Read(program.tagState.CurrentTagText);
+  const std::string tag = form.Ask();
+  if (!tag.empty()) RewriteTag(program, tag);
+}
+
+void InsertItem(Program& program) {
+  const std::string tag = program.forms.Get<Channel_Item>().Ask();
+  if (!tag.empty()) InsertPair(program, tag, Concat({CrLf, "</ITEM>"}));
+}
+
+}  // namespace morlan

@@ -1,0 +1,53 @@
+#include "tags/styleclasses.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+#include "tags/tagscan.h"
+
+namespace morlan {
+namespace {
+
+constexpr std::string_view kStyleStart = "<style", kStyleEnd = "</style>", kLinkStart = "<link";
+
+void AddOnce(std::vector<std::string>& names, std::string_view name) {
+  if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end()) names.emplace_back(name);
+}
+
+}  // namespace
+
+std::vector<std::string> ClassesInSheet(std::string_view sheet, std::string_view tagName) {
+  std::vector<std::string> names;
+  if (tagName.empty()) return names;
+  const std::string lower = LowerCase(sheet), key = Concat({LowerCase(tagName), "."});
+  for (std::size_t hit = lower.find(key); hit != std::string::npos; hit = lower.find(key, hit + key.size())) {
+    const std::size_t start = hit + key.size();
+    const std::size_t end = std::min(lower.find_first_of(" {\t\r\n", start), lower.size());
+    AddOnce(names, sheet.substr(start, end - start));
+  }
+  return names;
+}
+
+std::vector<std::string> ClassesInPage(std::string_view page, std::string_view tagName) {
+  const std::size_t start = FindNoCase(page, kStyleStart);
+  const std::size_t end = start == 0 ? 0 : FindNoCase(page, kStyleEnd, start);
+  return end == 0 ? std::vector<std::string>() : ClassesInSheet(page.substr(start - 1, end - start), tagName);
+}
+
+std::vector<std::string> ClassesInFile(std::string_view content, std::string_view tagName) {
+  return FindNoCase(content, kStyleStart) == 0 ? ClassesInSheet(content, tagName) : ClassesInPage(content, tagName);
+}
+
+std::vector<std::string> LinkedSheets(std::string_view page) {
+  std::vector<std::string> links;
+  for (std::size_t start = FindNoCase(page, kLinkStart); start != 0;) {
+    const std::size_t end = Find(page, ">", start);
+    if (end == 0) break;
+    const std::string_view tag = page.substr(start - 1, end - start);
+    if (EqualNoCase(GetTagParam(tag, "rel"), "stylesheet")) AddOnce(links, GetTagParam(tag, "href"));
+    start = FindNoCase(page, kLinkStart, end);
+  }
+  return links;
+}
+
+}  // namespace morlan
