@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/colour.h"
+#include "platform/fontchoice.h"
 #include "platform/forms/form.h"
 
 namespace morlan {
@@ -34,13 +35,6 @@ struct FileRequest {
   bool overwritePrompt = false;
 };
 
-struct FontChoice {
-  std::string name;
-  double size = 10;  // points
-  bool bold = false, italic = false, underline = false, strikeThrough = false;
-  bool operator==(const FontChoice&) const = default;
-};
-
 class Windows {
  public:
   virtual ~Windows() = default;
@@ -49,6 +43,8 @@ class Windows {
   virtual void ShowModal(Form& form) = 0;
   // Shows a form beside the main window and returns at once.
   virtual void Show(Form& form) = 0;
+  // Shows a form inside the main window, in the place of the documents, until it is hidden, and returns at once.
+  virtual void ShowInside(Form& form) = 0;
   virtual Answer Message(const MessageRequest& request) = 0;
   virtual std::optional<std::string> Input(std::string_view prompt, std::string_view title, std::string_view text) = 0;
   // The chosen path in the program's form; nothing when cancelled.
@@ -60,6 +56,8 @@ class Windows {
 
   // Lets waiting events be handled, then returns.
   virtual void Yield() = 0;
+  // The same in the middle of long work: what the user does meanwhile is dropped, but Esc is told. True when it was pressed.
+  virtual bool YieldToEscape() = 0;
   virtual void ShowBusyPointer(bool busy) = 0;
   virtual std::vector<std::string> FontNames() = 0;
   virtual void SendKeys(std::string_view keys) = 0;

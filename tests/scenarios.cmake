@@ -8,11 +8,11 @@ foreach(scenario IN LISTS scenarios)
     COMMAND
       ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:morlan7-script> -DSCENARIO=${scenario}
       -DFOLDER=${PROJECT_BINARY_DIR}/scenarios -P ${PROJECT_SOURCE_DIR}/tests/runscenario.cmake)
-  set_tests_properties(scenario.${name} PROPERTIES ENVIRONMENT MORLAN7_DATA=${PROJECT_SOURCE_DIR}/data TIMEOUT 60)
+  set_tests_properties(scenario.${name} PROPERTIES ENVIRONMENT MORLAN7_DATA=${MORLAN7_TREE} TIMEOUT 60)
 endforeach()
 
 add_test(
   NAME scriptoptions
   COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:morlan7-script> -DFOLDER=${PROJECT_BINARY_DIR}/scriptoptions -P
           ${PROJECT_SOURCE_DIR}/tests/scriptoptions.cmake)
-set_tests_properties(scriptoptions PROPERTIES ENVIRONMENT MORLAN7_DATA=${PROJECT_SOURCE_DIR}/data TIMEOUT 60)
+set_tests_properties(scriptoptions PROPERTIES ENVIRONMENT MORLAN7_DATA=${MORLAN7_TREE} TIMEOUT 60)

@@ -13,7 +13,7 @@ JumpToLabel::JumpToLabel(Program& program) : Form("JumpToLabel", "Skocz do etyki
   Command2.OnClick = [this] { Jump(); };
   Command1.OnClick = [this] { Hide(); };
   Labels.OnDblClick = [this] { Jump(); };
-  Labels.SetAccessibleName("Etykiety");
+  Labels.SetToolTip("Etykiety dokumentu; podwójne kliknięcie przenosi do wybranej"_pl).SetAccessibleName("Etykiety");
   layout = layout::Rows(Labels, layout::ButtonRow(Command2, Command1));
   defaultButton = &Command2;
   cancelButton = &Command1;

@@ -86,8 +86,8 @@ MomentForm::MomentForm(Program& program, const MomentKind& kind)
   Command2.OnClick = [this] { Insert(); };
   Command1.OnClick = [this] { Hide(); };
   layout = layout::Rows(layout::Field("&Format", Format_),
-                        layout::Columns(layout::Group(kind.parts[0].caption, first_), layout::Group(kind.parts[1].caption, second_),
-                                        layout::Group(kind.parts[2].caption, third_)),
+                        layout::Columns(layout::Field(kind.parts[0].caption, first_), layout::Field(kind.parts[1].caption, second_),
+                                        layout::Field(kind.parts[2].caption, third_)),
                         layout::Field("Wynik", sample), update_, layout::ButtonRow(Command2, Command1));
   defaultButton = &Command2;
   cancelButton = &Command1;

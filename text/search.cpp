@@ -30,7 +30,10 @@ void RememberText(ComboBox& box) {
 SearchForm::SearchForm(Program& program) : Form("search", "Szukaj"), program_(program) {
   Command2.OnClick = [this] { Search(); };
   Command1.OnClick = [this] { Hide(); };
-  layout = layout::Rows(layout::Field("Szukany tekst", Szukaj), matchcase, wholewords, layout::ButtonRow(Command2, Command1));
+  Szukaj.SetToolTip("Tekst, którego szukać w dokumencie"_pl);
+  matchcase.SetToolTip("Odróżnia małe litery od wielkich"_pl);
+  wholewords.SetToolTip("Pomija tekst, który jest częścią dłuższego wyrazu"_pl);
+  layout = layout::Rows(layout::Field("Szukany &tekst", Szukaj), matchcase, wholewords, layout::ButtonRow(Command2, Command1));
   defaultButton = &Command2;
   cancelButton = &Command1;
   firstFocus = &Szukaj;

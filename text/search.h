@@ -17,8 +17,8 @@ class SearchForm : public Form {
   explicit SearchForm(Program& program);
 
   ComboBox Szukaj{*this, "Szukaj"};  // its rows are the texts sought in this run
-  CheckBox matchcase{*this, "matchcase", "Zgodnie z wielkością liter"_pl};
-  CheckBox wholewords{*this, "wholewords", "Tylko całe wyrazy"_pl};
+  CheckBox matchcase{*this, "matchcase", "Zgodnie z wielkością &liter"_pl};
+  CheckBox wholewords{*this, "wholewords", "Tylko &całe wyrazy"_pl};
   Button Command2{*this, "Command2", "&Szukaj"};
   Button Command1{*this, "Command1", "&Anuluj"};
 

@@ -27,7 +27,11 @@ SearchReplace::SearchReplace(Program& program) : Form("SearchReplace", kTitle), 
   Command2.OnClick = [this] { Run(Extent::Asking); };
   Command3.OnClick = [this] { Run(Extent::All); };
   Command1.OnClick = [this] { Hide(); };
-  layout = layout::Rows(layout::Field("Szukany tekst", Szukaj), layout::Field("Nowy tekst", zastap), matchcase, wholewords,
+  Szukaj.SetToolTip("Tekst, którego szukać w dokumencie"_pl);
+  zastap.SetToolTip("Tekst, który zajmie miejsce znalezionego"_pl);
+  matchcase.SetToolTip("Odróżnia małe litery od wielkich"_pl);
+  wholewords.SetToolTip("Pomija tekst, który jest częścią dłuższego wyrazu"_pl);
+  layout = layout::Rows(layout::Field("Szukany &tekst", Szukaj), layout::Field("&Nowy tekst", zastap), matchcase, wholewords,
                         layout::ButtonRow(Command2, Command3, Command1));
   defaultButton = &Command2;
   cancelButton = &Command1;

@@ -13,8 +13,8 @@ class SearchReplace : public Form {
 
   ComboBox Szukaj{*this, "Szukaj"};
   ComboBox zastap{*this, "zastap"};
-  CheckBox matchcase{*this, "matchcase", "Zgodnie z wielkością liter"_pl};
-  CheckBox wholewords{*this, "wholewords", "Tylko całe wyrazy"_pl};
+  CheckBox matchcase{*this, "matchcase", "Zgodnie z wielkością &liter"_pl};
+  CheckBox wholewords{*this, "wholewords", "Tylko &całe wyrazy"_pl};
   Button Command2{*this, "Command2", "&Zastąp"_pl};
   Button Command3{*this, "Command3", "Zastąp &wszystkie"_pl};
   Button Command1{*this, "Command1", "&Anuluj"};

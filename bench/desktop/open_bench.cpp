@@ -5,23 +5,12 @@
 
 #include <QApplication>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
-#include <memory>
 #include <string>
 
-#include "app/assemble.h"
+#include "bench/desktop/runningprogram.h"
 #include "bench/pages.h"
-#include "core/documents.h"
-#include "core/morlan.h"
-#include "platform/posix/clock.h"
-#include "platform/posix/environment.h"
-#include "platform/posix/files.h"
-#include "platform/posix/processes.h"
-#include "platform/posix/profile.h"
-#include "platform/posix/registry.h"
 #include "platform/qt/desktop.h"
-#include "platform/qt/mainwindow.h"
 
 namespace morlan {
 namespace {
@@ -33,47 +22,6 @@ double ResidentBytes() {
   file >> all >> resident;
   return resident * static_cast<double>(sysconf(_SC_PAGESIZE));
 }
-
-class RunningProgram {
- public:
-  RunningProgram() {
-    program_.frame().splashShown = true;
-    desktop_.Start(program_);
-    Paint();
-  }
-  ~RunningProgram() { desktop_.Finish(); }
-  void Open(const std::string& nativePath) {
-    OpenDocument(program_, files_.FromNative(nativePath));
-    Paint();
-  }
-  void Close() {
-    CloseActiveDocument(program_);
-    do Paint();
-    while (!program_.closedDocuments.empty());
-  }
-  std::string Folder() const { return folder_.Path(); }
-
- private:
-  static void Paint() {
-    for (int round = 0; round < 5; ++round) QApplication::processEvents();
-  }
-  static ProfileFolders Filled(const std::string& folder) {
-    const ProfileFolders folders = FoldersBelow(folder);
-    FillProfile(folders, MORLAN7_SOURCE_DIR "/data");
-    return folders;
-  }
-
-  PrivateFolder folder_;
-  ProfileFolders folders_ = Filled(folder_.Path());
-  PosixFiles files_;
-  PosixEnvironment environment_{folders_};
-  FileRegistry registry_{folders_.windows + "/registry"};
-  PosixClock clock_;
-  PosixProcesses processes_{files_};
-  Desktop desktop_{{files_, environment_, registry_, processes_, clock_}};
-  Program program_{desktop_.platform(), desktop_.frontEnd()};
-  bool assembled_ = (Assemble(program_), true);
-};
 
 void BM_OpenPage(benchmark::State& state) {
   const auto bytes = static_cast<std::size_t>(state.range(0)) << 20;

@@ -19,7 +19,7 @@ class Profile {
     folder_ = mkdtemp(pattern.data());
     setenv("XDG_CONFIG_HOME", (folder_ / "config").c_str(), 1);
     setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
-    setenv("MORLAN7_DATA", MORLAN7_SOURCE_DIR "/data", 1);
+    setenv("MORLAN7_DATA", MORLAN7_TREE, 1);
     setenv("MORLAN7_TRACE_START", "1", 1);
     if (!getenv("DISPLAY") && !getenv("WAYLAND_DISPLAY")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
   }

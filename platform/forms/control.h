@@ -24,7 +24,7 @@ class ControlView {
 
 class Control {
  public:
-  enum class Kind { Label, Text, Combo, List, Check, Option, Button, Grid, Tabs, Toolbar, Picture, Spin, Frame, Panel, Timer };
+  enum class Kind { Label, Text, Combo, List, Check, Option, Button, Grid, Tabs, Toolbar, Picture, Spin, Frame, Panel, Timer, Web };
 
   // The name is that of the code: "Command2", or "kolory(4)" for a member of a control array.
   Control(Form& owner, std::string_view name, Kind kind);

@@ -17,6 +17,13 @@ bool ReadBoolean(std::string_view text, bool& value) {
 }  // namespace
 
 Label::Label(Form& owner, std::string_view name, std::string_view caption) : Control(owner, name, Kind::Label) { SetCaption(caption); }
+
+void TextSample::Show(const FontChoice& font, Colour colour) {
+  font_ = font;
+  colour_ = colour;
+  Notify(Aspect::Font);
+}
+
 Button::Button(Form& owner, std::string_view name, std::string_view caption) : Control(owner, name, Kind::Button) { SetCaption(caption); }
 Frame::Frame(Form& owner, std::string_view name, std::string_view caption) : Control(owner, name, Kind::Frame) { SetCaption(caption); }
 Panel::Panel(Form& owner, std::string_view name) : Control(owner, name, Kind::Panel) {}
@@ -407,6 +414,12 @@ ColourBox::ColourBox(Form& owner, std::string_view name, std::string_view captio
 
 void ColourBox::SetValue(Colour colour) {
   colour_ = colour;
+  isSet_ = true;
+  Notify(Aspect::Colour);
+}
+
+void ColourBox::Unset() {
+  isSet_ = false;
   Notify(Aspect::Colour);
 }
 

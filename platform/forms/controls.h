@@ -4,11 +4,13 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/colour.h"
+#include "platform/fontchoice.h"
 #include "platform/forms/control.h"
 #include "platform/forms/form.h"
 
@@ -17,6 +19,19 @@ namespace morlan {
 class Label : public Control {
  public:
   Label(Form& owner, std::string_view name, std::string_view caption = "");
+};
+
+// A label that looks as edited text does: in a font and a colour, on the ground of the editor.
+class TextSample : public Label {
+ public:
+  using Label::Label;
+  const FontChoice& Font() const { return font_; }
+  Colour TextColour() const { return colour_; }
+  void Show(const FontChoice& font, Colour colour);
+
+ private:
+  FontChoice font_;
+  Colour colour_ = 0;
 };
 
 class Button : public Control {
@@ -138,6 +153,9 @@ class OptionButton : public Control {
   void SetValue(bool value);
   void UserSets();  // switches it on and raises OnClick
   const std::string& Group() const { return group_; }
+  // A patch in front of the caption; struck through where there is no colour.
+  bool showsSample = false;
+  std::optional<Colour> sample;
   std::string ValueText() const override { return value_ ? "true" : "false"; }
   bool UserSetsText(std::string_view text) override;
 
@@ -248,15 +266,18 @@ class Panel : public Control {
   Panel(Form& owner, std::string_view name);
 };
 
-// Shows a colour and lets the user choose another.
+// Shows a colour and lets the user choose another. One that is not set shows that no colour was chosen.
 class ColourBox : public Control {
  public:
   ColourBox(Form& owner, std::string_view name, std::string_view caption, Colour colour = 0);
   Colour Value() const { return colour_; }
-  void SetValue(Colour colour);
+  void SetValue(Colour colour);  // sets the box, too
+  bool IsSet() const { return isSet_; }
+  void Unset();  // Value() keeps the last colour
 
  private:
   Colour colour_;
+  bool isSet_ = true;
 };
 
 // A surface to draw on. Shapes are in pixels of the picture; a view paints them in order.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/forms/layout.h"
+#include "platform/keys.h"
 
 namespace morlan {
 
@@ -33,7 +34,7 @@ class Form {
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption);
 
-  // In the order in which they were declared, which is the tab order too.
+  // In the order in which they were declared. Tab follows the layout.
   const std::vector<Control*>& Controls() const { return controls_; }
   Control* Find(std::string_view name) const;  // without regard to case; null when there is none
   template <class Kind>
@@ -56,7 +57,8 @@ class Form {
   void UserCloses();
 
   std::function<void()> OnLoad, OnActivate, OnUnload;
-  std::function<bool()> OnQueryUnload;  // false keeps the form open
+  std::function<void(KeyPress&)> OnKeyDown;  // a key that no control took; setting the code to 0 swallows it
+  std::function<bool()> OnQueryUnload;       // false keeps the form open
 
   std::string Tag;
 

@@ -12,14 +12,15 @@ class Control;
 struct Layout {
   enum class Kind {
     Empty,
-    Rows,     // children below each other; the labels of fields that follow each other line up
-    Columns,  // children side by side
-    Group,    // a framed group with a caption
-    Pages,    // tabs; each child is a Group whose caption is the tab's
-    Field,    // a label (caption with its mnemonic) and a control
-    Single,   // one control
-    Buttons,  // a row of buttons at the right edge of the form
-    Stretch,  // free space that grows
+    Rows,      // children below each other; the labels of fields that follow each other line up
+    Columns,   // children side by side
+    Group,     // a framed group with a caption
+    Pages,     // tabs; each child is a Group whose caption is the tab's
+    Scrolled,  // rows of which as many are seen as there is room for
+    Field,     // a label (caption with its mnemonic) and a control
+    Single,    // one control
+    Buttons,   // a row of buttons at the right edge of the form
+    Stretch,   // free space that grows
   };
   Kind kind = Kind::Empty;
   std::string caption;
@@ -57,10 +58,15 @@ template <class... Parts>
 Layout Pages(Parts&&... parts) {
   return Branch(Layout::Kind::Pages, "", parts...);
 }
+inline Layout Scrolled(Layout rows) {
+  rows.kind = Layout::Kind::Scrolled;
+  return rows;
+}
 template <class... Controls>
 Layout ButtonRow(Controls&... controls) {
   return Branch(Layout::Kind::Buttons, "", controls...);
 }
+// An empty label stands for the control's caption, and follows it.
 inline Layout Field(std::string_view label, Control& control, Control* companion = nullptr) {
   Layout field;
   field.kind = Layout::Kind::Field;

@@ -34,15 +34,18 @@ bool IsAddress(std::string_view text) {
 
 bool Exists(Files& files, std::string_view path) { return files.Size(path) || files.DirectoryExists(path); }
 
-// How many arguments from `first` on make one existing path when they are joined by blanks; 1 when none do.
+// How many arguments from `first` on make one existing path when they are joined by blanks; 1 when none do. The shortest
+// file wins, then the shortest folder: "c:\my pages\a.html" is not the folder "c:\my" and a rest.
 std::size_t PathPieces(Files& files, const std::vector<std::string>& arguments, std::size_t first) {
   std::string path = arguments[first];
   const std::size_t most = std::min(arguments.size() - first, kMostJoined);
+  std::size_t folder = 0;
   for (std::size_t count = 1; count <= most; ++count) {
     if (count > 1) path += " " + arguments[first + count - 1];
-    if (Exists(files, path)) return count;
+    if (files.Size(path)) return count;
+    if (folder == 0 && files.DirectoryExists(path)) folder = count;
   }
-  return 1;
+  return std::max<std::size_t>(folder, 1);
 }
 
 std::vector<std::string> NativeArguments(Files& files, const std::vector<std::string>& arguments) {

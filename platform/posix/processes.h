@@ -12,9 +12,10 @@ class PosixProcesses : public Processes {
   explicit PosixProcesses(Files& files);
 
   // The line is split as commandline.h tells. A program or an argument that is a path of the program's form ("c:\...") is
-  // handed over as the machine's own; where such a path stands without quotes and holds blanks, the shortest
-  // stretch that names an existing file is taken. A program without a path is looked for in PATH. It starts in the program's current
-  // directory, in a session of its own, with no input and no output. The window style is left to the desktop.
+  // handed over as the machine's own; where such a path stands without quotes and holds blanks, the shortest stretch that
+  // names an existing file is taken, or else the shortest that names a folder. A program without a path is looked for in
+  // PATH. It starts in the program's current directory, in a session of its own, with no input and no output. The window
+  // style is left to the desktop.
   bool Start(std::string_view commandLine, int windowStyle) override;
 
   // Through xdg-open. An address is anything that starts with a scheme of two letters or more; a file must exist.

@@ -18,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kIniName = "/Morlan7.ini";
+constexpr const char* kSheetsName = "/Morlan7.tpf";
 constexpr std::string_view kIcons = "icons";
 
 std::string Variable(const char* name) {
@@ -58,8 +59,15 @@ bool CopyTree(const fs::path& from, const fs::path& to) {
   return copied && !error;
 }
 
+// A folder that an older version has made lacks the sheets, without which the program shows none.
+bool AddSheets(const std::string& program, const std::string& shippedData) {
+  if (shippedData.empty() || native::Status(program + kSheetsName)) return true;
+  const auto sheets = native::Read(shippedData + kSheetsName);
+  return !sheets || native::Replace(program + kSheetsName, *sheets);
+}
+
 bool FillProgramFolder(const std::string& program, const std::string& shippedData) {
-  if (native::Status(program)) return true;
+  if (native::Status(program)) return AddSheets(program, shippedData);
   if (!IsShippedTree(shippedData) || !native::MakeDirectories(native::DirectoryOf(program))) return false;
   std::string fresh = program + "-XXXXXX";
   if (!::mkdtemp(fresh.data())) return false;
@@ -97,8 +105,7 @@ std::string NativeExecutableDirectory() {
 
 std::optional<std::string> FindShippedData(const std::string& installed) {
   const std::string here = NativeExecutableDirectory();
-  const std::array<std::string, 6> places = {Variable("MORLAN7_DATA"), here + "/../share/morlan7", here + "/../data",
-                                             here + "/../../data",     here + "/../../../data",    installed};
+  const std::array<std::string, 4> places = {Variable("MORLAN7_DATA"), here + "/../share/morlan7", here + "/share/morlan7", installed};
   for (const std::string& place : places)
     if (IsShippedTree(place)) return place;
   return std::nullopt;

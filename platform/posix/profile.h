@@ -22,13 +22,13 @@ ProfileFolders FoldersBelow(const std::string& profile);
 // The folder in which the program's file lies.
 std::string NativeExecutableDirectory();
 
-// The tree of data that comes with the program: $MORLAN7_DATA, ../share/morlan7 beside the program's folder, the source
-// tree around a build folder, and at last `installed`. Nothing when none of them is one.
+// The tree of data that comes with the program: $MORLAN7_DATA, share/morlan7 beside the program's folder or, as in a build
+// folder, below it, and at last `installed`. Nothing when none of them is one.
 std::optional<std::string> FindShippedData(const std::string& installed = "");
 
 // Makes the folders that are missing. A missing program folder gets a copy of the shipped tree, without its icons, in one
-// go; a missing Morlan7.ini of the Windows folder comes from there too. What exists is never touched. False when
-// something could not be made.
+// go; a missing Morlan7.ini of the Windows folder and a missing Morlan7.tpf of the program folder come from there too. What
+// exists is never touched. False when something could not be made.
 bool FillProfile(const ProfileFolders& folders, const std::string& shippedData);
 
 // A fresh folder that only the user can enter, removed with all that it holds when the object goes.

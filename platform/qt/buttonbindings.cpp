@@ -7,12 +7,39 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "platform/qt/bindings.h"
 #include "platform/qt/qttext.h"
 
 namespace morlan {
 namespace {
+
+constexpr QSize kSwatch(44, 14), kOptionSwatch(14, 14);
+constexpr int kSignRoom = 6;
+
+// A caption such as "..." that fits on a small square button.
+bool IsSign(const QString& caption) {
+  return caption.size() <= 3 && std::none_of(caption.begin(), caption.end(), [](QChar character) { return character.isLetterOrNumber(); });
+}
+
+// The style puts a text close to its picture.
+QString BesideSwatch(std::string_view caption) { return caption.empty() ? QString() : QLatin1Char(' ') + ToQt(caption); }
+
+// A patch of colour, outlined so that it is seen on a ground of its own colour too. Without a colour it is struck through.
+QIcon SwatchOf(std::optional<Colour> colour, QSize size, const QWidget& widget) {
+  QPixmap swatch(size * widget.devicePixelRatioF());
+  swatch.setDevicePixelRatio(widget.devicePixelRatioF());
+  swatch.fill(colour ? QColor(RedOf(*colour), GreenOf(*colour), BlueOf(*colour)) : QColor(Qt::transparent));
+  QColor outline = widget.palette().color(QPalette::ButtonText);
+  outline.setAlphaF(0.45F);
+  QPainter painter(&swatch);
+  painter.setPen(outline);
+  painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
+  if (!colour) painter.drawLine(QPoint(0, size.height() - 1), QPoint(size.width() - 1, 0));
+  painter.end();
+  return swatch;
+}
 
 class LabelBinding : public ControlBinding {
  public:
@@ -34,7 +61,10 @@ class ButtonBinding : public ControlBinding {
     connect(widget, &QPushButton::clicked, this, [this] { button_.UserClicks(); });
     Update(Aspect::Caption);
   }
-  void Update(Aspect) override { widget_->setText(ToQt(button_.Caption())); }
+  void Update(Aspect) override {
+    widget_->setText(ToQt(button_.Caption()));
+    if (IsSign(widget_->text())) widget_->setFixedWidth(widget_->sizeHint().height() + kSignRoom);
+  }
 
  private:
   Button& button_;
@@ -45,20 +75,14 @@ class ColourBoxBinding : public ControlBinding {
  public:
   ColourBoxBinding(ColourBox& box, QPushButton* widget) : ControlBinding(box, widget), box_(box), widget_(widget) {
     widget->setAutoDefault(false);
+    widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(widget, &QPushButton::clicked, this, [this] { box_.UserClicks(); });
     Update(Aspect::Colour);
   }
   void Update(Aspect) override {
-    widget_->setText(ToQt(box_.Caption()));
-    QPixmap swatch(QSize(28, 14) * widget_->devicePixelRatioF());
-    swatch.setDevicePixelRatio(widget_->devicePixelRatioF());
-    swatch.fill(QColor(RedOf(box_.Value()), GreenOf(box_.Value()), BlueOf(box_.Value())));
-    QPainter painter(&swatch);
-    painter.setPen(widget_->palette().color(QPalette::Mid));
-    painter.drawRect(QRectF(0.5, 0.5, 27, 13));
-    painter.end();
-    widget_->setIconSize(QSize(28, 14));
-    widget_->setIcon(swatch);
+    widget_->setText(BesideSwatch(box_.Caption()));
+    widget_->setIconSize(kSwatch);
+    widget_->setIcon(SwatchOf(box_.IsSet() ? std::optional(box_.Value()) : std::nullopt, kSwatch, *widget_));
   }
 
  private:
@@ -93,11 +117,23 @@ class OptionBinding : public ControlBinding {
   }
   void Update(Aspect) override {
     const QSignalBlocker quiet(widget_);
-    widget_->setText(ToQt(option_.Caption()));
+    widget_->setText(option_.showsSample ? BesideSwatch(option_.Caption()) : ToQt(option_.Caption()));
+    if (option_.showsSample) {
+      widget_->setIconSize(kOptionSwatch);
+      widget_->setIcon(SwatchOf(option_.sample, kOptionSwatch, *widget_));
+    }
     widget_->setChecked(option_.Value());
+    ChooseTabStop();
   }
 
  private:
+  // Tab goes to the chosen option of a group; the arrows go on from there.
+  void ChooseTabStop() {
+    const QAbstractButton* chosen = widget_->group()->checkedButton();
+    for (QAbstractButton* option : widget_->group()->buttons())
+      option->setFocusPolicy(!chosen || option == chosen ? Qt::StrongFocus : Qt::ClickFocus);
+  }
+
   OptionButton& option_;
   QRadioButton* widget_;
 };

@@ -25,8 +25,9 @@ ControlBinding::~ControlBinding() {
   if (control_.View() == this) control_.AttachView(nullptr);
 }
 
-void ControlBinding::AddLabel(QWidget* label) {
+void ControlBinding::AddLabel(QLabel* label, LabelText text) {
   label_ = label;
+  labelText_ = text;
   if (!control_.Visible()) label->hide();
   label->setEnabled(control_.Enabled());
 }
@@ -44,9 +45,18 @@ void ControlBinding::ControlChanged(Control&, Aspect aspect) {
     case Aspect::Focus:
       widget_->setFocus();
       break;
+    case Aspect::Caption:
+      FollowCaption();
+      [[fallthrough]];
     default:
       Update(aspect);
   }
+}
+
+void ControlBinding::FollowCaption() {
+  if (!label_ || labelText_ != LabelText::FollowsCaption) return;
+  label_->setText(ToQt(control_.Caption()));
+  if (control_.AccessibleName().empty()) widget_->setAccessibleName(WithoutMnemonic(label_->text()));
 }
 
 bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
@@ -74,6 +84,7 @@ bool ControlBinding::SwallowsKey(QEvent* event) {
 std::unique_ptr<ControlBinding> BindControl(Control& control, BindingContext& context) {
   switch (control.GetKind()) {
     case Control::Kind::Label:
+      if (auto* sample = dynamic_cast<TextSample*>(&control)) return BindTextSample(*sample, context);
       return BindLabel(static_cast<Label&>(control), context);
     case Control::Kind::Button:
       if (auto* box = dynamic_cast<ColourBox*>(&control)) return BindColourBox(*box, context);
@@ -101,6 +112,8 @@ std::unique_ptr<ControlBinding> BindControl(Control& control, BindingContext& co
     case Control::Kind::Frame:
     case Control::Kind::Panel:
       return BindPanel(control, context);
+    case Control::Kind::Web:
+      return BindWebBrowser(static_cast<WebBrowser&>(control), context);
     case Control::Kind::Timer:
       break;
   }

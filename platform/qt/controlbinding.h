@@ -1,6 +1,7 @@
 // A widget that shows one control of a form: it takes over the control's changes and tells it what the user does.
 #pragma once
 
+#include <QLabel>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -22,6 +23,9 @@ struct BindingContext {
   std::map<std::string, QButtonGroup*> optionGroups = {};  // by the options' group
 };
 
+// Whether the label beside a control is the layout's for good, or shows the control's caption.
+enum class LabelText { Stays, FollowsCaption };
+
 class ControlBinding : public QObject, public ControlView {
  public:
   ControlBinding(Control& control, QWidget* widget);
@@ -29,7 +33,7 @@ class ControlBinding : public QObject, public ControlView {
 
   QWidget* Widget() const { return widget_; }
   // A label that comes and goes with the control.
-  void AddLabel(QWidget* label);
+  void AddLabel(QLabel* label, LabelText text = LabelText::Stays);
   void ControlChanged(Control& control, Aspect aspect) override;
 
  protected:
@@ -41,7 +45,10 @@ class ControlBinding : public QObject, public ControlView {
   bool SwallowsKey(QEvent* event);
   Control& control_;
   QWidget* widget_;
-  QPointer<QWidget> label_;
+  void FollowCaption();
+
+  QPointer<QLabel> label_;
+  LabelText labelText_ = LabelText::Stays;
 };
 
 // The widget that fits a control's kind; null for a control without one, such as a timer.

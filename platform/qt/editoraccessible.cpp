@@ -79,7 +79,8 @@ class AccessibleEditor : public QAccessibleWidget, public QAccessibleTextInterfa
 };
 
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-  auto* widget = dynamic_cast<EditorWidget*>(object);
+  // Objects of libraries without run-time types must not reach the second cast.
+  auto* widget = dynamic_cast<EditorWidget*>(qobject_cast<QAbstractScrollArea*>(object));
   return widget ? new AccessibleEditor(*widget) : nullptr;
 }
 

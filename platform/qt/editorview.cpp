@@ -25,6 +25,7 @@
 #include "platform/qt/flatscrollbar.h"
 #include "platform/qt/outsidetext.h"
 #include "platform/qt/qtkeys.h"
+#include "platform/qt/qtfont.h"
 #include "platform/qt/qttext.h"
 
 namespace morlan {
@@ -44,13 +45,8 @@ std::shared_ptr<TEditor> HeldDocument(const TEditor& document) {
 }
 
 QFont FontOf(const FontChoice& choice, int zoom) {
-  QFont font = choice.name.empty() ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : QFont(ToQt(choice.name));
-  font.setStyleHint(QFont::Monospace);
+  QFont font = ToQtFont(choice);
   font.setPointSizeF(std::clamp(choice.size + zoom, kSmallestFont, kLargestFont));
-  font.setBold(choice.bold);
-  font.setItalic(choice.italic);
-  font.setUnderline(choice.underline);
-  font.setStrikeOut(choice.strikeThrough);
   font.setKerning(false);
   return font;
 }

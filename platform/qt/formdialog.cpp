@@ -6,38 +6,50 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
 
+#include "platform/qt/formgeometry.h"
+#include "platform/qt/mnemonics.h"
+#include "platform/qt/qtkeys.h"
 #include "platform/qt/qttext.h"
+#include "platform/qt/scrolledrows.h"
 #include "platform/qt/windowplaces.h"
 
 namespace morlan {
 namespace {
 
-constexpr int kMargin = 12, kSpacing = 8, kButtonWidth = 88;
+constexpr int kMargin = 12, kSpacing = 8, kColumnSpacing = 16, kButtonWidth = 88;
+constexpr int kEvenNumerator = 3, kEvenDenominator = 2;  // how much wider the widest group may be
+constexpr int kTitleRoom = 110;                          // what a window's title shares its bar with
 constexpr int kLabelColumn = 0, kControlColumn = 1, kCompanionColumn = 2, kColumns = 3;
 
-// Controls that want room of their own stand below their label.
-bool IsTall(const Control& control) {
-  switch (control.GetKind()) {
-    case Control::Kind::List:
-    case Control::Kind::Grid:
-    case Control::Kind::Picture:
-      return true;
-    case Control::Kind::Text:
-      return static_cast<const TextBox&>(control).IsMultiLine();
-    default:
-      return false;
-  }
+int StretchIn(const QBoxLayout& box, const Layout& part) {
+  const bool sideways = box.direction() == QBoxLayout::LeftToRight;
+  return (sideways ? GrowsSideways(part) : GrowsDownwards(part)) ? 1 : 0;
 }
 
-bool GrowsDownwards(const Layout& part) {
-  if (part.kind == Layout::Kind::Stretch) return true;
-  if (part.control && IsTall(*part.control)) return part.control->GetKind() != Control::Kind::Picture;
-  for (const Layout& child : part.children)
-    if (GrowsDownwards(child)) return true;
-  return false;
+// Groups side by side are of one width, unless that would cost more room than it is worth.
+void MakeEven(const QHBoxLayout& row) {
+  std::vector<QWidget*> groups;
+  int least = QWIDGETSIZE_MAX, most = 0;
+  for (int i = 0; i < row.count(); ++i) {
+    auto* group = qobject_cast<QGroupBox*>(row.itemAt(i)->widget());
+    if (!group) return;
+    groups.push_back(group);
+    least = std::min(least, group->minimumSizeHint().width());
+    most = std::max(most, group->minimumSizeHint().width());
+  }
+  if (most * kEvenDenominator > least * kEvenNumerator) return;
+  for (QWidget* group : groups) group->setMinimumWidth(most);
+}
+
+// The room that a dialog gets without having a use for it opens above its buttons.
+bool WantsRoomAbove(const Layout& rows, const Layout& child) {
+  return child.kind == Layout::Kind::Buttons && &child == &rows.children.back() && !GrowsDownwards(rows);
 }
 
 }  // namespace
@@ -59,12 +71,14 @@ void FormDialog::Build() {
   auto* outside = new QVBoxLayout(this);
   outside->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   outside->setSpacing(kSpacing);
+  outside->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + kTitleRoom);
   Fill(*outside, form_.layout);
   // A control that the layout leaves out still works, below the others.
   for (Control* control : form_.Controls())
     if (form_.layout.kind == Layout::Kind::Empty)
       if (QWidget* widget = WidgetOf(control)) outside->addWidget(widget);
   SetTabOrder();
+  PartMnemonics(*this);
   if (form_.defaultButton)
     if (auto* button = qobject_cast<QPushButton*>(WidgetOf(form_.defaultButton))) button->setDefault(true);
   RestoreSize();
@@ -85,24 +99,21 @@ void FormDialog::Fill(QBoxLayout& box, const Layout& part) {
     case Layout::Kind::Rows: {
       auto* grid = new QGridLayout;
       grid->setSpacing(kSpacing);
-      box.addLayout(grid, GrowsDownwards(part) ? 1 : 0);
+      box.addLayout(grid, StretchIn(box, part));
       return FillRows(*grid, part);
     }
-    case Layout::Kind::Columns: {
-      auto* columns = new QHBoxLayout;
-      columns->setSpacing(kSpacing);
-      box.addLayout(columns, GrowsDownwards(part) ? 1 : 0);
-      for (const Layout& child : part.children) Fill(*columns, child);
-      return;
-    }
+    case Layout::Kind::Columns:
+      return AddColumns(box, part);
     case Layout::Kind::Group:
       return AddGroup(box, part);
     case Layout::Kind::Pages:
       return AddPages(box, part);
+    case Layout::Kind::Scrolled:
+      return AddScrolled(box, part);
     case Layout::Kind::Field:
       return AddInlineField(box, part);
     case Layout::Kind::Single:
-      if (QWidget* widget = WidgetOf(part.control)) box.addWidget(widget, IsTall(*part.control) ? 1 : 0);
+      if (QWidget* widget = WidgetOf(part.control)) box.addWidget(widget, StretchIn(box, part));
       return;
     case Layout::Kind::Buttons:
       return AddButtons(box, part);
@@ -112,19 +123,31 @@ void FormDialog::Fill(QBoxLayout& box, const Layout& part) {
 }
 
 void FormDialog::FillRows(QGridLayout& grid, const Layout& rows) {
+  const bool even = IsColumnOfButtons(rows);
   int row = 0;
   for (const Layout& child : rows.children) {
     if (child.kind == Layout::Kind::Field && !IsTall(*child.control)) {
       AddField(grid, row++, child);
       continue;
     }
+    if (WantsRoomAbove(rows, child)) grid.setRowStretch(row++, 1);
     auto* line = new QVBoxLayout;
     line->setSpacing(kSpacing / 2);
     Fill(*line, child);
-    grid.addLayout(line, row, kLabelColumn, 1, kColumns);
+    const bool narrow = child.kind == Layout::Kind::Single && IsNarrow(*child.control) && !even;
+    grid.addLayout(line, row, kLabelColumn, 1, kColumns, narrow ? Qt::AlignLeft : Qt::Alignment());
     grid.setRowStretch(row++, GrowsDownwards(child) ? 1 : 0);
   }
   grid.setColumnStretch(kControlColumn, 1);
+}
+
+void FormDialog::AddColumns(QBoxLayout& box, const Layout& columns) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(IsColumnOfButtons(columns) ? kSpacing : kColumnSpacing);
+  box.addLayout(row, StretchIn(box, columns));
+  for (const Layout& child : columns.children) Fill(*row, child);
+  if (!GrowsSideways(columns)) row->addStretch(1);
+  MakeEven(*row);
 }
 
 void FormDialog::AddField(QGridLayout& grid, int row, const Layout& field) {
@@ -132,17 +155,18 @@ void FormDialog::AddField(QGridLayout& grid, int row, const Layout& field) {
   if (!widget) return;
   grid.addWidget(MakeLabel(field, widget), row, kLabelColumn, Qt::AlignVCenter | Qt::AlignLeft);
   QWidget* companion = field.companion ? WidgetOf(field.companion) : nullptr;
-  const bool narrow = field.control->GetKind() == Control::Kind::Spin;
-  grid.addWidget(widget, row, kControlColumn, 1, companion ? 1 : 2, narrow ? Qt::AlignLeft : Qt::Alignment());
+  const Qt::Alignment place = IsNarrow(*field.control) ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
+  grid.addWidget(widget, row, kControlColumn, 1, companion ? 1 : 2, place);
   if (companion) grid.addWidget(companion, row, kCompanionColumn);
 }
 
 QWidget* FormDialog::MakeLabel(const Layout& field, QWidget* buddy) {
-  auto* label = new QLabel(ToQt(field.caption), this);
+  const LabelText text = field.caption.empty() ? LabelText::FollowsCaption : LabelText::Stays;
+  auto* label = new QLabel(ToQt(field.caption.empty() ? field.control->Caption() : field.caption), this);
   label->setTextFormat(Qt::PlainText);
   label->setBuddy(buddy);
   if (buddy->accessibleName().isEmpty()) buddy->setAccessibleName(WithoutMnemonic(label->text()));
-  bindings_[field.control]->AddLabel(label);
+  bindings_[field.control]->AddLabel(label, text);
   return label;
 }
 
@@ -154,9 +178,9 @@ void FormDialog::AddInlineField(QBoxLayout& box, const Layout& field) {
   QBoxLayout* pair = tall ? static_cast<QBoxLayout*>(new QVBoxLayout) : new QHBoxLayout;
   pair->setSpacing(tall ? kSpacing / 2 : kSpacing);
   pair->addWidget(label);
-  pair->addWidget(widget, 1);
+  pair->addWidget(widget, IsNarrow(*field.control) ? 0 : 1);
   if (QWidget* companion = field.companion ? WidgetOf(field.companion) : nullptr) pair->addWidget(companion);
-  box.addLayout(pair, tall ? 1 : 0);
+  box.addLayout(pair, StretchIn(box, field));
 }
 
 void FormDialog::AddButtons(QBoxLayout& box, const Layout& buttons) {
@@ -176,11 +200,13 @@ void FormDialog::AddGroup(QBoxLayout& box, const Layout& group) {
   grid->setContentsMargins(kMargin, kSpacing, kMargin, kMargin);
   grid->setSpacing(kSpacing);
   FillRows(*grid, group);
-  box.addWidget(frame, GrowsDownwards(group) ? 1 : 0);
+  if (!GrowsDownwards(group)) grid->setRowStretch(grid->rowCount(), 1);
+  box.addWidget(frame, StretchIn(box, group));
 }
 
 void FormDialog::AddPages(QBoxLayout& box, const Layout& pages) {
   auto* tabs = new QTabWidget(this);
+  tabs->setUsesScrollButtons(false);  // the dialog is as wide as all tabs want
   for (const Layout& page : pages.children) {
     auto* sheet = new QWidget;
     auto* column = new QVBoxLayout(sheet);
@@ -192,15 +218,24 @@ void FormDialog::AddPages(QBoxLayout& box, const Layout& pages) {
     if (!GrowsDownwards(page)) column->addStretch(1);
     tabs->addTab(sheet, ToQt(page.caption));
   }
+  tabs->setMinimumWidth(std::max(tabs->minimumSizeHint().width(), tabs->tabBar()->sizeHint().width()));
   box.addWidget(tabs, 1);
+}
+
+void FormDialog::AddScrolled(QBoxLayout& box, const Layout& rows) {
+  auto* area = new ScrolledRows(this);
+  area->Grid().setSpacing(kSpacing);
+  FillRows(area->Grid(), rows);
+  area->Grid().setRowStretch(area->Grid().rowCount(), 1);
+  area->Fit();
+  box.addWidget(area, 1);
 }
 
 void FormDialog::SetTabOrder() {
   QWidget* before = nullptr;
-  for (Control* control : form_.Controls()) {
-    const auto found = bindings_.find(control);
-    if (found == bindings_.end() || !found->second) continue;
-    QWidget* widget = found->second->Widget();
+  for (Control* control : InOrder(form_.layout)) {
+    QWidget* widget = WidgetOf(control);
+    if (!widget) continue;
     if (before) QWidget::setTabOrder(before, widget);
     before = widget;
   }
@@ -223,11 +258,16 @@ void FormDialog::KeepSize() {
 }
 
 void FormDialog::keyPressEvent(QKeyEvent* event) {
+  if (KeyPress press = ReadKey(*event).press; form_.OnKeyDown && press.code != 0) {
+    form_.OnKeyDown(press);
+    if (press.code == 0) return;
+  }
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (event->key() == Qt::Key_Escape) return form_.UserCloses();
   if (!enter) return QWidget::keyPressEvent(event);
   if (auto* button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
-  if (form_.defaultButton) form_.defaultButton->UserClicks();
+  // A button on another page is not meant.
+  if (form_.defaultButton && WidgetOf(form_.defaultButton)->isVisible()) form_.defaultButton->UserClicks();
 }
 
 void FormDialog::reject() { form_.UserCloses(); }

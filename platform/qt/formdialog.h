@@ -44,11 +44,13 @@ class FormDialog : public QDialog, private FormView {
   QWidget* WidgetOf(Control* control);
   void Fill(QBoxLayout& box, const Layout& part);
   void FillRows(QGridLayout& grid, const Layout& rows);
+  void AddColumns(QBoxLayout& box, const Layout& columns);
   void AddField(QGridLayout& grid, int row, const Layout& field);
   QWidget* MakeLabel(const Layout& field, QWidget* buddy);
   void AddButtons(QBoxLayout& box, const Layout& buttons);
   void AddGroup(QBoxLayout& box, const Layout& group);
   void AddPages(QBoxLayout& box, const Layout& pages);
+  void AddScrolled(QBoxLayout& box, const Layout& rows);
   void AddInlineField(QBoxLayout& box, const Layout& field);
   void SetTabOrder();
   void RestoreSize();

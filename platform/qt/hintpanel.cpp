@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "core/document.h"
@@ -69,6 +70,7 @@ void HintPanel::ShowBlock() {
     block_->setForegroundRole(QPalette::ToolTipText);
     block_->setMargin(4);
     block_->setTextFormat(Qt::PlainText);
+    block_->setWordWrap(true);
     block_->setFocusPolicy(Qt::NoFocus);
   }
   block_->setText(ToQt(document_.FastHelpL.Caption()));
@@ -115,22 +117,28 @@ void HintPanel::Place() {
   if (listShown) PlaceList(caret);
 }
 
+QRect HintPanel::BesideLine(const QRectF& caret, QSize wanted, double left, double gapAbove) const {
+  const double below = area_.height() - caret.bottom(), above = caret.top() - gapAbove;
+  const bool goesBelow = wanted.height() <= below || below >= above;
+  const double room = std::max(0.0, goesBelow ? below : above);
+  const int height = std::min(wanted.height(), static_cast<int>(room));
+  const double top = goesBelow ? caret.bottom() : above - height;
+  const double inside = std::clamp(left, 0.0, std::max(0.0, static_cast<double>(area_.width() - wanted.width())));
+  return {static_cast<int>(inside), static_cast<int>(std::ceil(top)), std::min(wanted.width(), area_.width()), height};
+}
+
 void HintPanel::PlaceBlock(const QRectF& caret) {
-  const QSize size = block_->sizeHint().boundedTo(area_.size());
-  double top = caret.bottom();
-  if (top + size.height() > area_.height()) top = caret.top() - kRoomAboveLine - size.height();
-  block_->setGeometry((area_.width() - size.width()) / 2, static_cast<int>(std::max(0.0, top)), size.width(), size.height());
+  const int oneLine = block_->fontMetrics().horizontalAdvance(block_->text()) + 2 * (block_->margin() + block_->frameWidth() + 1);
+  const int width = std::min(oneLine, area_.width());
+  const QSize size(width, block_->heightForWidth(width));
+  block_->setGeometry(BesideLine(caret, size, (area_.width() - width) / 2.0, kRoomAboveLine));
 }
 
 void HintPanel::PlaceList(const QRectF& caret) {
   const int rowHeight = std::max(1, list_->sizeHintForRow(0)), frame = 2 * list_->frameWidth();
   const int height = std::min(kMostRows, list_->count()) * rowHeight + frame;
   const int width = list_->sizeHintForColumn(0) + list_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + frame + rowHeight / 2;
-  const QSize size = QSize(width, height).boundedTo(area_.size());
-  double top = caret.bottom();
-  if (top + size.height() > area_.height()) top = caret.top() - size.height();
-  const double left = std::min(caret.left(), static_cast<double>(area_.width() - size.width()));
-  list_->setGeometry(static_cast<int>(std::max(0.0, left)), static_cast<int>(std::max(0.0, top)), size.width(), size.height());
+  list_->setGeometry(BesideLine(caret, QSize(width, height), caret.left(), 0));
 }
 
 bool HintPanel::ListIsShown() const { return list_ && list_->isVisible(); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QSize>
 #include <functional>
 #include <memory>
 
@@ -31,6 +32,8 @@ class HintPanel : private ControlView {
   void ControlChanged(Control& control, Aspect aspect) override;
   void ShowBlock();
   void ShowList(bool rowsChanged);
+  // Below the caret's line, or above it where there is more room; never over it, and within the area.
+  QRect BesideLine(const QRectF& caret, QSize wanted, double left, double gapAbove) const;
   void PlaceBlock(const QRectF& caret);
   void PlaceList(const QRectF& caret);
   QListWidget* MakeList();

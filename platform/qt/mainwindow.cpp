@@ -15,6 +15,7 @@
 #include "core/document.h"
 #include "core/documents.h"
 #include "core/status.h"
+#include "platform/qt/clientarea.h"
 #include "platform/qt/commandpanel.h"
 #include "platform/qt/editorpages.h"
 #include "platform/qt/editorview.h"
@@ -116,11 +117,20 @@ QWidget* MainWindow::MakeCentre(QWidget* parent) {
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  column->addWidget(new WindowStrip(program_.frame(), program_.platform.files, centre));
-  pages_ = new EditorPages(centre);
-  column->addWidget(pages_, 1);
+  auto* strip = new WindowStrip(program_.frame(), program_.platform.files, centre);
+  column->addWidget(strip);
+  client_ = new ClientArea(program_.platform.files, centre);
+  client_->onChange = [this, strip] {
+    strip->ShowSwitch(client_->Inside() != nullptr);
+    showTitle_.Ask();
+  };
+  column->addWidget(client_, 1);
   return centre;
 }
+
+EditorPages& MainWindow::Pages() { return client_->Pages(); }
+
+void MainWindow::ShowInside(Form& form) { client_->ShowInside(form); }
 
 void MainWindow::RestorePlace() {
   if (!restoreGeometry(places_.Place(kWindowPlace))) {
@@ -140,14 +150,14 @@ void MainWindow::KeepPlace() {
 
 void MainWindow::ActivateDocument(TEditor& document) {
   if (!titleWatch_ || &titleWatch_->Document() != &document) titleWatch_ = std::make_unique<TitleWatch>(document, showTitle_);
-  pages_->Activate(document);
+  Pages().Activate(document);
   showTitle_.Ask();
   showMenu_.Ask();
 }
 
 void MainWindow::CloseDocument(TEditor& document) {
   if (titleWatch_ && &titleWatch_->Document() == &document) titleWatch_.reset();
-  pages_->Close(document);
+  Pages().Close(document);
   showTitle_.Ask();
   showMenu_.Ask();
   showMenu_.DoNow();
@@ -160,7 +170,7 @@ void MainWindow::ForgetClosed() {
     QTimer::singleShot(200, this, [this] { forgetClosed_.Ask(); });
     return;
   }
-  pages_->ForgetClosed();
+  Pages().ForgetClosed();
   program_.ForgetClosed();
 }
 
@@ -168,6 +178,11 @@ void MainWindow::ShowMenu() { menuBar_.Show(const_cast<Menu&>(MenuOf(program_)))
 
 void MainWindow::ShowTitle() {
   const QString caption = ToQt(program_.frame().Caption());
+  if (const Form* inside = client_->Inside()) {
+    setWindowTitle(ToQt(inside->Caption()) + QStringLiteral(" — ") + caption);
+    setWindowModified(false);
+    return;
+  }
   if (!program_.ActiveDocument) {
     setWindowTitle(caption);
     setWindowModified(false);
@@ -182,7 +197,7 @@ void MainWindow::PopUp(Menu& menu) {
       menu, program_.platform.files, [this](const std::string& name) { program_.commands.RunMenu(name); }, this);
   if (!popUp) return;
   QPoint place = QCursor::pos();
-  const QWidget* text = pages_->currentWidget();
+  const QWidget* text = Pages().currentWidget();
   if (QGuiApplication::mouseButtons() == Qt::NoButton && text)
     place = text->mapToGlobal(text->inputMethodQuery(Qt::ImCursorRectangle).toRect().bottomLeft());
   popUp->popup(place);

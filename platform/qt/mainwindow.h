@@ -17,6 +17,7 @@ class QSplitter;
 
 namespace morlan {
 
+class ClientArea;
 class CommandPanel;
 class EditorPages;
 class QtWindows;
@@ -35,9 +36,11 @@ class MainWindow : public QMainWindow, private FormView {
   void ActivateDocument(TEditor& document);
   void CloseDocument(TEditor& document);
   void PopUp(Menu& menu);
+  // Shows a form in the place of the texts until it is hidden.
+  void ShowInside(Form& form);
   // The program has ended: the window goes without more questions.
   void End();
-  EditorPages& Pages() { return *pages_; }
+  EditorPages& Pages();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -65,7 +68,7 @@ class MainWindow : public QMainWindow, private FormView {
   WindowPlaces& places_;
   MenuBarView menuBar_;
   FormTimers timers_;
-  EditorPages* pages_ = nullptr;
+  ClientArea* client_ = nullptr;
   QSplitter* sides_ = nullptr;
   SidePanel* sidePanel_ = nullptr;
   Deferred showTitle_{[this] { ShowTitle(); }};

@@ -92,7 +92,12 @@ QMenu* MakePopUp(const Menu& menu, Files& files, const RunEntry& run, QWidget* p
   const bool titled = top.size() == 1 && !top.front().children.empty();
   auto* popUp = new QMenu(parent);
   popUp->setAttribute(Qt::WA_DeleteOnClose);
-  Fill(*popUp, titled ? top.front().children : top, files, run);
+  // A command may let events be handled, which deletes the closed menu while it still works on the click.
+  const RunEntry runLater = [parent, run](const std::string& name) {
+    QMetaObject::invokeMethod(
+        parent, [run, name] { run(name); }, Qt::QueuedConnection);
+  };
+  Fill(*popUp, titled ? top.front().children : top, files, runLater);
   if (!popUp->isEmpty()) return popUp;
   delete popUp;
   return nullptr;

@@ -34,7 +34,8 @@ class MenuBarView : private MenuView {
   Deferred synchronise_{[this] { Synchronise(); }};
 };
 
-// A pop-up of what is visible of a menu; it deletes itself when it closes. Null when nothing is visible.
+// A pop-up of what is visible of a menu; it deletes itself when it closes, and the entry runs behind that. Null when nothing
+// is visible.
 QMenu* MakePopUp(const Menu& menu, Files& files, const RunEntry& run, QWidget* parent);
 
 }  // namespace morlan

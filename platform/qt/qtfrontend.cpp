@@ -50,6 +50,7 @@ void QtFrontEnd::Show(Program& program) {
   window_ = std::make_unique<MainWindow>(program, windows_, places_);
   window_->Pages().SetLineNumbersShown(lineNumbersShown_);
   windows_.SetMainWindow(window_.get());
+  windows_.showInside = [this](Form& form) { window_->ShowInside(form); };
   window_->onFirstPaint = [this] { FirstPainted(); };
   window_->show();
   // Where no window manager gives the focus, keys would reach nobody.
@@ -58,6 +59,7 @@ void QtFrontEnd::Show(Program& program) {
 
 void QtFrontEnd::Hide() {
   windows_.SetMainWindow(nullptr);
+  windows_.showInside = nullptr;
   window_.reset();
 }
 

@@ -6,9 +6,11 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 
+#include "platform/qt/escapewatch.h"
 #include "platform/qt/filedialogs.h"
 #include "platform/qt/formdialog.h"
 #include "platform/qt/messages.h"
+#include "platform/qt/qtfont.h"
 #include "platform/qt/qttext.h"
 #include "platform/qt/sendkeys.h"
 
@@ -17,16 +19,6 @@ namespace {
 
 // Commands may yield on every key; looking for events more often than people notice would only cost time.
 constexpr int kYieldMilliseconds = 15;
-
-QFont ToQtFont(const FontChoice& choice) {
-  QFont font(ToQt(choice.name));
-  font.setPointSizeF(choice.size > 0 ? choice.size : 10);
-  font.setBold(choice.bold);
-  font.setItalic(choice.italic);
-  font.setUnderline(choice.underline);
-  font.setStrikeOut(choice.strikeThrough);
-  return font;
-}
 
 }  // namespace
 
@@ -79,6 +71,10 @@ void QtWindows::Show(Form& form) {
   dialog->show();
 }
 
+void QtWindows::ShowInside(Form& form) {
+  if (showInside) showInside(form);
+}
+
 Answer QtWindows::Message(const MessageRequest& request) {
   const DialogTime dialogTime(*this);
   return AskMessage(request, Parent());
@@ -110,9 +106,9 @@ std::optional<Colour> QtWindows::AskColour(Colour colour) {
 std::optional<FontChoice> QtWindows::AskFont(const FontChoice& font) {
   const DialogTime dialogTime(*this);
   bool accepted = false;
-  const QFont chosen = QFontDialog::getFont(&accepted, ToQtFont(font), Parent());
+  const QFont chosen = QFontDialog::getFont(&accepted, WithStyleName(ToQtFont(font)), Parent());
   if (!accepted) return std::nullopt;
-  return FontChoice{FromQt(chosen.family()), chosen.pointSizeF(), chosen.bold(), chosen.italic(), chosen.underline(), chosen.strikeOut()};
+  return FromQtFont(chosen);
 }
 
 // The printer puts its dialog itself when there is something to print.
@@ -124,6 +120,16 @@ void QtWindows::Yield() {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   --yields_;
   sinceYield_.restart();
+}
+
+bool QtWindows::YieldToEscape() {
+  if (sinceYield_.elapsed() < kYieldMilliseconds) return false;
+  EscapeWatch watch;
+  ++yields_;
+  QCoreApplication::processEvents();
+  --yields_;
+  sinceYield_.restart();
+  return watch.WasPressed();
 }
 
 void QtWindows::ShowBusyPointer(bool busy) {

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -23,11 +24,14 @@ class QtWindows : public Windows {
 
   // The window above which dialogs come up; null while there is none.
   void SetMainWindow(QWidget* window) { mainWindow_ = window; }
+  // Shows a form in the client area of the main window; empty while there is none.
+  std::function<void(Form&)> showInside;
   // Whether the program waits in the middle of a command for other events to be handled.
   bool IsYielding() const { return yields_ > 0; }
 
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
+  void ShowInside(Form& form) override;
   Answer Message(const MessageRequest& request) override;
   std::optional<std::string> Input(std::string_view prompt, std::string_view title, std::string_view text) override;
   std::optional<std::string> AskFile(const FileRequest& request) override;
@@ -36,6 +40,7 @@ class QtWindows : public Windows {
   std::optional<FontChoice> AskFont(const FontChoice& font) override;
   bool AskPrint() override;
   void Yield() override;
+  bool YieldToEscape() override;
   void ShowBusyPointer(bool busy) override;
   std::vector<std::string> FontNames() override;
   void SendKeys(std::string_view keys) override;

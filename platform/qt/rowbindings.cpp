@@ -3,18 +3,21 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "platform/qt/bindings.h"
 #include "platform/qt/deferred.h"
+#include "platform/qt/formgeometry.h"
 #include "platform/qt/qttext.h"
 #include "platform/qt/rowmodel.h"
 
 namespace morlan {
 namespace {
 
-constexpr int kRowRoom = 4;
+constexpr int kRowRoom = 4, kWidestInCharacters = 60;
 
 // Rows with some air between them.
 class RoomyRows : public QStyledItemDelegate {
@@ -22,6 +25,17 @@ class RoomyRows : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowRoom);
+  }
+};
+
+// As wide as its rows, within reason.
+class RoomyList : public QListView {
+ public:
+  using QListView::QListView;
+  QSize sizeHint() const override {
+    const int rows = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth() + kRowRoom;
+    const int most = fontMetrics().averageCharWidth() * kWidestInCharacters;
+    return {std::max(minimumWidth(), std::min(rows, most)), minimumHeight()};
   }
 };
 
@@ -114,6 +128,7 @@ class ComboBinding : public ControlBinding {
     widget->setInsertPolicy(QComboBox::NoInsert);
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     widget->setMinimumContentsLength(box.WidthInCharacters);
+    if (IsNarrow(box)) widget->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     widget->setMaxVisibleItems(20);
     widget->setItemDelegate(new RoomyRows(widget));
     if (box.IsEditable()) {
@@ -154,7 +169,7 @@ class ComboBinding : public ControlBinding {
 }  // namespace
 
 std::unique_ptr<ControlBinding> BindListBox(ListBox& list, BindingContext& context) {
-  return std::make_unique<ListBinding>(list, new QListView(context.parent));
+  return std::make_unique<ListBinding>(list, new RoomyList(context.parent));
 }
 
 std::unique_ptr<ControlBinding> BindComboBox(ComboBox& box, BindingContext& context) {

@@ -1,5 +1,7 @@
 #include "platform/qt/style.h"
 
+#include <QGroupBox>
+#include <QPainter>
 #include <QStyleOption>
 
 #include "platform/qt/svgicons.h"
@@ -10,6 +12,8 @@ namespace {
 // Outlines are drawn somewhat darker than the window, which nobody can see on a dark one: while one is drawn, the
 // option says that the window is this light.
 constexpr QRgb kWindowOfDarkOutlines = 0x757b85;
+constexpr qreal kGroupRadius = 3, kBelowTitle = 3.5;
+constexpr float kGroupLine = 0.18F;
 
 class VisibleOutline {
  public:
@@ -31,6 +35,19 @@ constexpr QStyle::PrimitiveElement kOutlined[] = {
     QStyle::PE_PanelMenu,
 };
 
+// A line round the group, below its title, and no shade inside: groups stand on windows and on the pages of tabs alike.
+void DrawGroup(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const auto* group = qobject_cast<const QGroupBox*>(widget);
+  const int title = group && group->title().isEmpty() ? 0 : option.fontMetrics.height();
+  QColor line = option.palette.color(QPalette::WindowText);
+  line.setAlphaF(kGroupLine);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(line);
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, title + kBelowTitle, -0.5, -0.5), kGroupRadius, kGroupRadius);
+  painter.restore();
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
@@ -47,6 +64,7 @@ QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option, co
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+  if (element == PE_FrameGroupBox) return DrawGroup(*option, *painter, widget);
   for (const PrimitiveElement outlined : kOutlined) {
     if (element != outlined) continue;
     const VisibleOutline visible(*option);

@@ -1,4 +1,4 @@
-// The look of the controls: the toolkit's own, mended in two places.
+// The look of the controls: the toolkit's own, mended in some places.
 #pragma once
 
 #include <QProxyStyle>

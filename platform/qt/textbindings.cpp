@@ -6,6 +6,7 @@
 #include <QSpinBox>
 
 #include "platform/qt/bindings.h"
+#include "platform/qt/formgeometry.h"
 #include "platform/qt/qttext.h"
 
 namespace morlan {
@@ -18,7 +19,9 @@ class LineBinding : public ControlBinding {
   LineBinding(TextBox& box, QLineEdit* widget) : ControlBinding(box, widget), box_(box), widget_(widget) {
     widget->setReadOnly(box.ReadOnly);
     if (box.MaxLength) widget->setMaxLength(static_cast<int>(box.MaxLength));
-    widget->setMinimumWidth(WidthOf(*widget, box.WidthInCharacters));
+    const int width = WidthOf(*widget, box.WidthInCharacters);
+    widget->setMinimumWidth(width);
+    if (IsNarrow(box)) widget->setMaximumWidth(width);
     connect(widget, &QLineEdit::textEdited, this, [this](const QString& text) { box_.UserSets(FromQt(text)); });
     Update(Aspect::Text);
   }

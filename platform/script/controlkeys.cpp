@@ -121,6 +121,9 @@ void PressInControl(FrontForms& forms, Control& control, KeyPress press) {
   if (control.OnKeyDown) control.OnKeyDown(press);
   if (press.code == 0) return;
   Form& form = control.Owner();
+  const bool types = IsTextField(control) && press.character != 0;
+  if (form.OnKeyDown && !types) form.OnKeyDown(press);
+  if (press.code == 0) return;
   if (press.shift & shift::kAlt) {
     PressMnemonic(forms, form, static_cast<char>(press.code));
     return;

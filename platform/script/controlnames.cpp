@@ -11,7 +11,7 @@ namespace morlan {
 namespace {
 
 constexpr std::string_view kKindWords[] = {"label", "text",    "combo",   "list", "check", "option", "button", "grid",
-                                           "tabs",  "toolbar", "picture", "spin", "frame", "panel",  "timer"};
+                                           "tabs",  "toolbar", "picture", "spin", "frame", "panel",  "timer",  "panel"};
 
 // The frame, the active document, or one of the program's forms.
 Form* FindForm(Session& session, std::string_view name) {

@@ -68,6 +68,14 @@ void ScriptWindows::Show(Form& form) {
   session_.forms.Open(form);
 }
 
+void ScriptWindows::ShowInside(Form& form) {
+  for (Control* control : form.Controls()) {
+    auto* browser = dynamic_cast<WebBrowser*>(control);
+    if (browser && !pages_[browser]) pages_[browser] = std::make_unique<ScriptWebPage>(session_.transcript, *browser);
+  }
+  Show(form);
+}
+
 Answer ScriptWindows::Message(const MessageRequest& request) {
   const ButtonsRow& buttons = kButtons[static_cast<std::size_t>(request.buttons)];
   session_.transcript.Line(

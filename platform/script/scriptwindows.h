@@ -1,7 +1,11 @@
 // Questions, dialogs and modal forms of a scripted session: told in the transcript, answered by the script.
 #pragma once
 
+#include <map>
+#include <memory>
+
 #include "platform/files.h"
+#include "platform/script/scriptwebpage.h"
 #include "platform/script/session.h"
 #include "platform/windows.h"
 
@@ -14,6 +18,7 @@ class ScriptWindows : public Windows {
 
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
+  void ShowInside(Form& form) override;
   // A box with only an OK button goes on by itself. A session that ends meanwhile counts as the most careful answer.
   Answer Message(const MessageRequest& request) override;
   std::optional<std::string> Input(std::string_view prompt, std::string_view title, std::string_view text) override;
@@ -24,6 +29,7 @@ class ScriptWindows : public Windows {
   bool AskPrint() override;
 
   void Yield() override { session_.timers.TickDue(); }
+  bool YieldToEscape() override { return false; }
   void ShowBusyPointer(bool) override {}
   std::vector<std::string> FontNames() override;
   void SendKeys(std::string_view keys) override;
@@ -34,6 +40,7 @@ class ScriptWindows : public Windows {
 
   Session& session_;
   Files& files_;
+  std::map<const Control*, std::unique_ptr<ScriptWebPage>> pages_;
 };
 
 }  // namespace morlan

@@ -189,6 +189,24 @@ TEST_F(FormDialogTest, LabelsOfFieldsThatFollowEachOtherLineUp) {
   });
 }
 
+TEST_F(FormDialogTest, ALabelThatTheLayoutLeavesOpenFollowsTheCaption) {
+  form.nazwa.SetCaption("&Imię"_pl);
+  form.layout = layout::Rows(layout::Field("", form.nazwa), layout::Field("Adres", form.adres));
+  OpenAndLeave([this](QWidget& modal) {
+    const auto& name = Named<QLineEdit>(modal, "nazwa");
+    const auto labels = [&] {
+      QStringList texts;
+      for (const QLabel* label : modal.findChildren<QLabel*>()) texts += label->text();
+      return texts.join(QLatin1Char(' '));
+    };
+    EXPECT_EQ(labels(), QStringLiteral("&Imię Adres"));
+    form.nazwa.SetCaption("Nazwis&ko");
+    form.adres.SetCaption("Ulica");
+    EXPECT_EQ(labels(), QStringLiteral("Nazwis&ko Adres"));
+    EXPECT_EQ(name.accessibleName(), QStringLiteral("Nazwisko"));
+  });
+}
+
 TEST_F(FormDialogTest, TabGoesThroughTheControlsInTheirOrder) {
   OpenAndLeave([](QWidget& modal) {
     const char* order[] = {"nazwa", "tresc", "wybor", "adres", "lista", "wiele", "duze", "lewa"};

@@ -132,7 +132,7 @@ TEST_F(MainWindowTest, MenusHoldWhatTheProgramHasCommandsFor) {
   QMenu& file = MenuNamed(Window(), QStringLiteral("Plik"));
   ASSERT_NE(EntryOf(file, "xmn_save"), nullptr);
   EXPECT_EQ(EntryOf(file, "xmn_save")->text(), QStringLiteral("&Zapisz\tCtrl+S"));
-  EXPECT_EQ(EntryOf(file, "xmn_preview"), nullptr);
+  EXPECT_EQ(EntryOf(MenuNamed(Window(), QStringLiteral("Narzędzia")), "xmn_checkspeeling"), nullptr);
   EntryOf(MenuNamed(Window(), QStringLiteral("Edycja")), "xmn_selectall")->trigger();
   QMenu& view = MenuNamed(Window(), QStringLiteral("Widok"));
   EXPECT_TRUE(EntryOf(view, "xmn_status_visible")->isChecked());

@@ -59,6 +59,13 @@ TEST_F(PosixProcessesTest, UnquotedPathsWithBlanksAreTakenAsFarAsAFileOfThatName
   EXPECT_EQ(Output(), Native("moja strona.html") + "\n" + Native("nie") + "\nma\n" + Native() + "\n");
 }
 
+TEST_F(PosixProcessesTest, AFileInAFolderWithBlanksWinsOverAFolderOfTheFirstWord) {
+  for (const char* name : {"moje", "moje strony"}) std::filesystem::create_directory(folder.path / name);
+  folder.Put("moje strony/a.html", "");
+  EXPECT_TRUE(processes.Start(P("Program.sh") + " " + P("moje strony\\a.html"), 3));
+  EXPECT_EQ(Output(), Native("moje strony/a.html") + "\n" + Native() + "\n");
+}
+
 TEST_F(PosixProcessesTest, AMissingProgramIsAFailure) {
   EXPECT_FALSE(processes.Start(P("brak.sh"), 1));
   EXPECT_FALSE(processes.Start("morlan7-no-such-program", 1));

@@ -68,6 +68,17 @@ TEST_F(ProfileTest, WhatTheUserHasIsNeverTouched) {
   EXPECT_FALSE(folder.Has("profil/program/Morlan7.ini"));
 }
 
+TEST_F(ProfileTest, AFolderWithoutPropertySheetsGetsThemAndItsOwnStay) {
+  ASSERT_TRUE(FillProfile(folders, shipped));
+  EXPECT_FALSE(folder.Has("profil/program/Morlan7.tpf"));
+  folder.Put("data/Morlan7.tpf", "new");
+  EXPECT_TRUE(FillProfile(folders, shipped));
+  EXPECT_EQ(folder.Get("profil/program/Morlan7.tpf"), "new");
+  folder.Put("profil/program/Morlan7.tpf", "mine");
+  EXPECT_TRUE(FillProfile(folders, shipped));
+  EXPECT_EQ(folder.Get("profil/program/Morlan7.tpf"), "mine");
+}
+
 TEST_F(ProfileTest, CopiesOfReadOnlyFilesCanBeWritten) {
   ASSERT_EQ(::chmod((shipped + "/Listy/Tags.lst").c_str(), 0444), 0);
   ASSERT_TRUE(FillProfile(folders, shipped));

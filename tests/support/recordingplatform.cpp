@@ -63,6 +63,11 @@ void RecordingWindows::Show(Form& form) {
   form.BecomeVisible();
 }
 
+void RecordingWindows::ShowInside(Form& form) {
+  record_.push_back("inside " + form.Name());
+  form.BecomeVisible();
+}
+
 Answer RecordingWindows::Message(const MessageRequest& request) {
   record_.push_back("message " + Quoted(request.text) + " " + Quoted(request.title) + " " + kIcons[static_cast<std::size_t>(request.icon)] +
                     " " + kButtons[static_cast<std::size_t>(request.buttons)]);

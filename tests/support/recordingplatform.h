@@ -36,10 +36,13 @@ class RecordingWindows : public Windows {
   std::deque<std::function<void(Form&)>> modals;
   // Runs inside Yield.
   std::function<void()> onYield;
+  // Whether Esc has been pressed, asked in the middle of long work; empty for never.
+  std::function<bool()> onYieldToEscape;
   bool busyPointer = false;
 
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
+  void ShowInside(Form& form) override;
   Answer Message(const MessageRequest& request) override;
   std::optional<std::string> Input(std::string_view prompt, std::string_view title, std::string_view text) override;
   std::optional<std::string> AskFile(const FileRequest& request) override;
@@ -48,6 +51,7 @@ class RecordingWindows : public Windows {
   std::optional<FontChoice> AskFont(const FontChoice& font) override;
   bool AskPrint() override;
   void Yield() override;
+  bool YieldToEscape() override { return onYieldToEscape && onYieldToEscape(); }
   void ShowBusyPointer(bool busy) override { busyPointer = busy; }
   std::vector<std::string> FontNames() override { return {"Courier", "Sans"}; }
   void SendKeys(std::string_view keys) override;

@@ -29,8 +29,8 @@ struct Search : testing::Test {
 TEST_F(Search, BearsItsNames) {
   EXPECT_EQ(form.Name(), "search");
   EXPECT_EQ(form.Caption(), "Szukaj");
-  EXPECT_EQ(form.matchcase.Caption(), "Zgodnie z wielkością liter"_pl);
-  EXPECT_EQ(form.wholewords.Caption(), "Tylko całe wyrazy"_pl);
+  EXPECT_EQ(form.matchcase.Caption(), "Zgodnie z wielkością &liter"_pl);
+  EXPECT_EQ(form.wholewords.Caption(), "Tylko &całe wyrazy"_pl);
   EXPECT_EQ(form.Command2.Caption(), "&Szukaj");
   EXPECT_EQ(form.Command1.Caption(), "&Anuluj");
 }

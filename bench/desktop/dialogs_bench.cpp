@@ -1,0 +1,78 @@
+// Opening the dialogs: from the command to the painted window, for the first time and after.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/qt/desktop.h"
+#include "platform/qt/formdialog.h"
+#include "tests/desktop/support/formtour.h"
+
+namespace morlan {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+enum class Use { First, Again };
+
+// The time of one opening; 0 when the form did not come up.
+double OpenedIn(FormTour& tour, const FormStop& stop) {
+  const auto before = Clock::now();
+  double milliseconds = 0;
+  tour.Open(stop, [&](FormDialog&) { milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - before).count(); });
+  return milliseconds;
+}
+
+double MedianOf(std::vector<double> times) {
+  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+  std::nth_element(times.begin(), middle, times.end());
+  return *middle;
+}
+
+// Tells the form that takes longest, by the median of its openings.
+void OpenForms(benchmark::State& state, Use use) {
+  std::map<std::string, std::vector<double>> times;
+  for (auto _ : state) {
+    FormTour tour;
+    double all = 0;
+    for (const FormStop& stop : tour.Stops()) {
+      if (!stop.tag.empty()) continue;
+      if (use == Use::Again) OpenedIn(tour, stop);
+      times[stop.form].push_back(OpenedIn(tour, stop));
+      all += times[stop.form].back();
+    }
+    state.SetIterationTime(all / 1000);
+  }
+  double worst = 0, sum = 0;
+  for (const auto& [form, openings] : times) {
+    const double median = MedianOf(openings);
+    sum += median;
+    if (median <= worst) continue;
+    worst = median;
+    state.SetLabel(form);
+  }
+  state.counters["worst_ms"] = worst;
+  state.counters["mean_ms"] = sum / static_cast<double>(times.size());
+  state.counters["forms"] = static_cast<double>(times.size());
+}
+
+void FirstUse(benchmark::State& state) { OpenForms(state, Use::First); }
+void LaterUse(benchmark::State& state) { OpenForms(state, Use::Again); }
+BENCHMARK(FirstUse)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(LaterUse)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace morlan
+
+int main(int count, char** arguments) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  morlan::PrepareToolkit();
+  QApplication application(count, arguments);
+  morlan::SetUpToolkit();
+  benchmark::Initialize(&count, arguments);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -1,0 +1,187 @@
+// Property sheets and hints in the real window, with the shipped file of tags.
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QWheelEvent>
+
+#include "core/text.h"
+#include "platform/posix/profile.h"
+#include "platform/qt/editorpages.h"
+#include "platform/qt/editorview.h"
+#include "platform/qt/qttext.h"
+#include "tests/desktop/support/desktopfixture.h"
+
+namespace morlan {
+namespace {
+
+class PropertySheetWindow : public DesktopTest {
+ protected:
+  void Open(std::string_view text, std::size_t caret) {
+    const auto shipped = FindShippedData();
+    ASSERT_TRUE(shipped);
+    const auto sheets = files.Read(files.FromNative(*shipped + "/Morlan7.tpf"));
+    ASSERT_TRUE(sheets);
+    Write("program/Morlan7.tpf", *sheets);
+    Start();
+    program.ActiveEditor->SetText(std::string(text));
+    program.ActiveEditor->Select(caret, 0);
+    View().setFocus();
+    Settle();
+  }
+  EditorWidget& View() { return *Window().Pages().Current(); }
+  QListWidget* List() { return View().viewport()->findChild<QListWidget*>(); }
+  QLabel* Block() { return View().viewport()->findChild<QLabel*>(); }
+  QRect CaretLine() { return View().Scene().CaretArea(program.ActiveEditor->SelStart(), 1).toAlignedRect(); }
+
+  // The panel lies within the text's area and leaves the caret's line free.
+  void ExpectBesideTheLine(const QWidget& panel) {
+    EXPECT_TRUE(View().viewport()->rect().contains(panel.geometry()));
+    EXPECT_GT(panel.height(), 0);
+    const QRectF line = View().Scene().CaretArea(program.ActiveEditor->SelStart(), 1);
+    EXPECT_TRUE(panel.geometry().top() >= line.bottom() - 0.5 || panel.geometry().bottom() + 1 <= line.top() + 0.5);
+  }
+};
+
+TEST_F(PropertySheetWindow, F4OpensTheSheetOfTheTagAndEnterWritesIt) {
+  Open("ab<input type=text name=\"imie\">yz", 5);
+  InNextModal([](QWidget& modal) {
+    EXPECT_EQ(modal.windowTitle(), QStringLiteral("Właściwości <input>"));
+    auto& type = Named<QComboBox>(modal, "Value_(0)");
+    EXPECT_EQ(type.currentText(), QStringLiteral("text"));
+    EXPECT_TRUE(type.hasFocus() || type.lineEdit()->hasFocus());
+    EXPECT_EQ(Named<QLineEdit>(modal, "Value_(1)").text(), QStringLiteral("imie"));
+    type.lineEdit()->selectAll();
+    TypeIn(*type.lineEdit(), QStringLiteral("email"));
+    PressIn(type, Qt::Key_Return);
+  });
+  PressIn(Editor(), Qt::Key_F4);
+  Settle();
+  EXPECT_EQ(Text(), "ab<input type=\"email\" name=\"imie\">yz");
+  EXPECT_TRUE(View().hasFocus());
+  PressIn(Editor(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Text(), "ab<input type=text name=\"imie\">yz");
+}
+
+TEST_F(PropertySheetWindow, EscapeLeavesTheTagAlone) {
+  Open("<input type=text>", 5);
+  InNextModal([](QWidget& modal) { PressIn(modal, Qt::Key_Escape); });
+  PressIn(Editor(), Qt::Key_F4);
+  EXPECT_EQ(Text(), "<input type=text>");
+}
+
+TEST_F(PropertySheetWindow, ALongSheetFitsASmallScreenAndFollowsTheKeyboard) {
+  Open("<input>", 5);
+  InNextModal([](QWidget& modal) {
+    EXPECT_LE(modal.height(), 680);
+    EXPECT_LE(modal.width(), 1280);
+    auto* area = modal.findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+    for (int step = 0; step < 25; ++step) PressIn(*QApplication::focusWidget(), Qt::Key_Tab);
+    const QWidget* field = QApplication::focusWidget();
+    ASSERT_TRUE(area->isAncestorOf(field));
+    EXPECT_TRUE(area->viewport()->rect().contains(QRect(field->mapTo(area->viewport(), QPoint()), field->size())));
+    PressIn(modal, Qt::Key_Escape);
+  });
+  PressIn(Editor(), Qt::Key_F4);
+}
+
+TEST_F(PropertySheetWindow, TheWheelMovesTheRowsAndNoValue) {
+  Open("<input type=text>", 5);
+  InNextModal([](QWidget& modal) {
+    auto* area = modal.findChild<QScrollArea*>();
+    auto& checked = Named<QComboBox>(modal, "Value_(6)");
+    const QString before = checked.currentText();
+    QWheelEvent wheel(QPointF(5, 5), checked.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&checked, &wheel);
+    EXPECT_EQ(checked.currentText(), before);
+    EXPECT_GT(area->verticalScrollBar()->value(), 0);
+    PressIn(modal, Qt::Key_Escape);
+  });
+  PressIn(Editor(), Qt::Key_F4);
+}
+
+TEST_F(PropertySheetWindow, TheAttributesOfATagAreListedAtTheCaret) {
+  Open("", 0);
+  TypeIn(Editor(), QStringLiteral("<table "));
+  ASSERT_NE(List(), nullptr);
+  EXPECT_TRUE(List()->isVisible());
+  EXPECT_EQ(List()->currentRow(), 0);
+  ExpectBesideTheLine(*List());
+  EXPECT_NEAR(List()->geometry().left(), CaretLine().left(), 2);
+  EXPECT_TRUE(View().hasFocus());
+
+  PressIn(Editor(), Qt::Key_Down);
+  EXPECT_TRUE(List()->hasFocus());
+  const QString first = List()->item(1)->text();
+  PressIn(*List(), Qt::Key_Down);
+  PressIn(*List(), Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+  EXPECT_EQ(Text(), Concat({"<table ", FromQt(first)}));
+  EXPECT_FALSE(List()->isVisible());
+  EXPECT_TRUE(View().hasFocus());
+}
+
+TEST_F(PropertySheetWindow, EscapeClosesTheListFromTheTextAndFromWithin) {
+  Open("", 0);
+  TypeIn(Editor(), QStringLiteral("<table "));
+  PressIn(Editor(), Qt::Key_Escape);
+  EXPECT_FALSE(List()->isVisible());
+  TypeIn(Editor(), QStringLiteral("a"));
+  EXPECT_TRUE(List()->isVisible());
+  PressIn(Editor(), Qt::Key_Down);
+  PressIn(*List(), Qt::Key_Escape);
+  EXPECT_FALSE(List()->isVisible());
+  EXPECT_TRUE(View().hasFocus());
+  EXPECT_EQ(Text(), "<table a");
+}
+
+TEST_F(PropertySheetWindow, TheListGoesAwayWhenTheTagIsClosed) {
+  Open("", 0);
+  TypeIn(Editor(), QStringLiteral("<table "));
+  EXPECT_TRUE(List()->isVisible());
+  TypeIn(Editor(), QStringLiteral(">x"));
+  EXPECT_FALSE(List()->isVisible());
+}
+
+TEST_F(PropertySheetWindow, NearTheBottomAndTheRightEdgeTheListTurnsAside) {
+  std::string text;
+  for (int line = 0; line < 200; ++line) text += "wiersz\r\n";
+  Open(text + std::string(60, '.'), 0);
+  program.ActiveEditor->Select(program.ActiveEditor->Length(), 0);
+  Settle();
+  TypeIn(Editor(), QStringLiteral("<table "));
+  ASSERT_TRUE(List() && List()->isVisible());
+  ExpectBesideTheLine(*List());
+  TypeIn(Editor(), QString(200, QLatin1Char('a')));
+  ASSERT_TRUE(List()->isVisible());
+  ExpectBesideTheLine(*List());
+}
+
+TEST_F(PropertySheetWindow, InALowWindowTheListIsCutToTheRoomItHas) {
+  Open("\r\n\r\n\r\n", 4);
+  Window().resize(700, 260);
+  Settle();
+  TypeIn(Editor(), QStringLiteral("<table "));
+  ASSERT_TRUE(List() && List()->isVisible());
+  ExpectBesideTheLine(*List());
+}
+
+TEST_F(PropertySheetWindow, TheBlockShowsAllAttributesInAsManyLinesAsItNeeds) {
+  Open("", 0);
+  program.HintShowList = false;
+  TypeIn(Editor(), QStringLiteral("<br "));
+  ASSERT_TRUE(Block() && Block()->isVisible());
+  ExpectBesideTheLine(*Block());
+  EXPECT_GE(Block()->height(), Block()->heightForWidth(Block()->width()));
+  EXPECT_NEAR(Block()->geometry().center().x(), View().viewport()->rect().center().x(), 2);
+}
+
+}  // namespace
+}  // namespace morlan

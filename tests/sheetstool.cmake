@@ -1,0 +1,32 @@
+# The program that builds the property sheets: there and back again, and its answers to what is wrong.
+file(REMOVE_RECURSE ${FOLDER})
+file(MAKE_DIRECTORY ${FOLDER})
+
+# Runs TOOL with the arguments and expects a status and, in what it prints as errors, a text.
+function(expect status text)
+  execute_process(COMMAND ${TOOL} ${ARGN} WORKING_DIRECTORY ${FOLDER} OUTPUT_FILE ${FOLDER}/output RESULT_VARIABLE answer ERROR_VARIABLE errors)
+  string(FIND "${errors}" "${text}" found)
+  if(NOT answer EQUAL status OR found EQUAL -1)
+    message(FATAL_ERROR "${ARGN}: status ${answer} instead of ${status}, errors: ${errors}")
+  endif()
+endfunction()
+
+expect(0 "" source ${SHEETS})
+file(RENAME ${FOLDER}/output ${FOLDER}/all.txt)
+expect(0 "" compile again.tpf all.txt)
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${SHEETS} ${FOLDER}/again.tpf RESULT_VARIABLE differs)
+if(differs)
+  message(FATAL_ERROR "what is built from ${FOLDER}/all.txt is not ${SHEETS}")
+endif()
+
+file(WRITE ${FOLDER}/bad.txt "znacznik x\n  a tekts\n  b tekst\n  b tekst\n")
+expect(1 "bad.txt:2: \"tekts\" is no kind of attribute\nbad.txt:4: \"b\" stands twice\n" compile bad.tpf bad.txt)
+if(EXISTS ${FOLDER}/bad.tpf)
+  message(FATAL_ERROR "a faulty source has been built")
+endif()
+expect(1 "none.txt: cannot be read" compile bad.tpf none.txt)
+expect(1 "none.tpf: cannot be read" source none.tpf)
+expect(1 "cannot be written" compile none/bad.tpf all.txt)
+expect(2 "morlan7-sheets compile RESULT SOURCE..." compile)
+expect(2 "morlan7-sheets source FILE")
+file(REMOVE_RECURSE ${FOLDER})
