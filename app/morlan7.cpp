@@ -6,6 +6,8 @@
 
 #include "app/assemble.h"
 #include "core/defs.h"
+#include "core/safetystore.h"
+#include "platform/posix/backgroundfiles.h"
 #include "platform/posix/clock.h"
 #include "platform/posix/environment.h"
 #include "platform/posix/files.h"
@@ -40,6 +42,10 @@ int Main(int& count, char** arguments) {
   Desktop desktop({files, environment, registry, processes, clock});
   desktop.frontEnd().onEnd = [] { QCoreApplication::exit(0); };
   Program program(desktop.platform(), desktop.frontEnd());
+  const std::string state = UserStateFolder();
+  PosixBackgroundFiles background(files);
+  SafetyStore safety(files.FromNative(state), files, clock, background, {OwnProcess(), IsRunningMorlan7});
+  if (!state.empty()) program.safety = &safety;
   Assemble(program);
   desktop.Start(program);
   const int code = QApplication::exec();

@@ -5,16 +5,9 @@
 #include "core/defs.h"
 #include "core/paths.h"
 #include "core/preview.h"
-#include "core/text.h"
+#include "core/settings.h"
 
 namespace morlan {
-namespace {
-
-constexpr std::string_view kItem = "Browser";
-constexpr std::int32_t kMostBrowsers = 1000;  // what a garbled count is cut to
-
-}  // namespace
-
 Browsers::Browsers(Program& program) : Form("Browsers", "Przeglądarki"_pl), program_(program) {
   List.SetAccessibleName("Przeglądarki"_pl);
   List.SetToolTip("Przeglądarka, która ma pokazać stronę"_pl);
@@ -29,9 +22,10 @@ Browsers::Browsers(Program& program) : Form("Browsers", "Przeglądarki"_pl), pro
 void Browsers::Form_Load() {
   paths_.clear();
   List.Clear();
-  const std::int32_t count = std::min(LeadingInteger(program_.MainIni.GetSubItemValue(kItem, "CountItem")), kMostBrowsers);
+  Settings settings(program_.MainIni);
+  const std::int32_t count = settings.Integer(Setting::BrowserCount);
   for (std::int32_t n = 1; n <= count; ++n) {
-    std::string path = program_.MainIni.GetSubItemValue(kItem, Concat({"Item", NumberText(std::int64_t{n})}));
+    std::string path = settings.Text(Setting::Browser, n);
     if (path.empty()) continue;
     List.AddItem(StripExtension(FileNameOf(path)));
     paths_.push_back(std::move(path));

@@ -4,8 +4,10 @@
 
 #include "core/document.h"
 #include "core/documents.h"
+#include "core/frmbrowser.h"
 #include "core/frontend.h"
 #include "core/morlan.h"
+#include "core/recovery.h"
 #include "core/savedocument.h"
 #include "core/text.h"
 #include "core/windowslist.h"
@@ -38,6 +40,8 @@ void Forget(Program& program, TEditor& document) {
   program.closedDocuments.push_back(*place);
   program.documents.erase(place);
   if (program.ActiveDocument == &document) SetActive(program, program.documents.empty() ? nullptr : program.documents.back().get());
+  KeepChanges(program);
+  if (program.documents.empty()) HideViewer(program);
   program.frontEnd.DocumentClosed(document);
 }
 

@@ -24,6 +24,7 @@ namespace morlan {
 class FrontEnd;
 class MlnEditor;
 class Morlan;
+class SafetyStore;
 class TEditor;
 
 class Program {
@@ -59,6 +60,7 @@ class Program {
   std::int32_t AutoSaveInterval = 0, AutoSaveCounter = 0;
   std::int16_t LineInfoCounter = 0;
   std::string CurrentCharset = "Win1250";
+  std::string LoadNotice;  // what the status line says at the end of a load; empty: that the program is ready
   std::array<std::string, 3> PrintHeader;
   bool DocumentLoading = false;
   bool HintShow = true, HintShowList = true;
@@ -66,6 +68,9 @@ class Program {
 
   // The frame. It exists from construction to the end.
   Morlan& frame() const { return *morlan_; }
+
+  // Keeps texts against loss; null where nothing is kept.
+  SafetyStore* safety = nullptr;
 
   // Open documents in the order of their opening. A document that closes stays alive until ForgetClosed.
   std::vector<std::shared_ptr<TEditor>> documents;

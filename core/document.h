@@ -30,6 +30,8 @@ class TEditor : public Form {
   Menu xmnm_editpopup;  // the pop-up of a right click
 
   Program& program() const { return program_; }
+  // The revision of the text that was kept against loss last.
+  std::uint64_t keptRevision = 0;
   bool IsModified() const;  // NeedToBeSaved read as a boolean
 
   // Events of EditedText. Setting a key's code, or a character, to 0 swallows it.

@@ -1,6 +1,7 @@
 #include "core/documents.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/closing.h"
 #include "core/document.h"
@@ -9,6 +10,7 @@
 #include "core/morlan.h"
 #include "core/paths.h"
 #include "core/programmenus.h"
+#include "core/safetystore.h"
 #include "core/status.h"
 #include "core/text.h"
 #include "core/windowslist.h"
@@ -68,7 +70,10 @@ std::optional<std::string> ReadDocument(Program& program, std::string_view path)
   if (FileExists(program, path)) {
     ShowBusy(program, Concat({"Otwieranie pliku...", path}));
     program.DocumentLoading = true;
-    if (auto text = program.platform.files.Read(path)) return text;
+    if (auto text = program.platform.files.Read(path)) {
+      if (program.safety) program.safety->KeepLoaded(path, *text);
+      return text;
+    }
     program.DocumentLoading = false;
     ShowReady(program);
   }
@@ -92,6 +97,8 @@ void Settle(Program& program, TEditor& document, std::string text, std::string_v
   UpdateWindowsManager(program);
   EnableToolbars(program);
 }
+
+void ShowEndOfLoad(Program& program) { ShowReady(program, std::exchange(program.LoadNotice, "")); }
 
 // A document's window comes forward, and the viewer leaves its place to it.
 void ComeForward(Program& program, TEditor& document) {
@@ -140,6 +147,7 @@ void OpenDocument(Program& program, std::string_view path) {
   std::optional<std::string> read = ReadDocument(program, path);
   if (!read) return;
   TEditor& document = MakeDocument(program, path);
+  SetActive(program, document);  // whose menu takes the marks of the character set
   std::string text = DecodeDocumentCharSet(program, std::move(*read), path);
   if (LooksLikePage(text))
     text = WithGenerator(program, std::move(text));
@@ -149,7 +157,7 @@ void OpenDocument(Program& program, std::string_view path) {
   program.DocumentLoading = false;
   program.frontEnd.DocumentOpened(document);
   document.Form_Activate();
-  ShowReady(program);
+  ShowEndOfLoad(program);
   ComeForward(program, document);
   document.EditedText.SetFocus();
 }
@@ -159,20 +167,20 @@ bool OpenDocumentAs(Program& program, std::string_view path, std::string_view ti
   std::optional<std::string> read = ReadDocument(program, path);
   if (!read) return false;
   TEditor& document = MakeDocument(program, title);
+  SetActive(program, document);
   std::string text = std::move(*read);
   // The raw text is tested here, before it is decoded.
   document.EditedText.UseColorise = LooksLikePage(text);
   if (document.EditedText.UseColorise) text = WithGenerator(program, std::move(text));
   text = DecodeDocumentCharSet(program, std::move(text), path);
   Settle(program, document, std::move(text), path);
-  SetActive(program, document);
   program.frontEnd.DocumentOpened(document);
   ComeForward(program, document);
   document.EditedText.SetFocus();
   program.DocumentLoading = false;
   document.Form_Load();
   document.Form_Activate();
-  ShowReady(program);
+  ShowEndOfLoad(program);
   return true;
 }
 

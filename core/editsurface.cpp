@@ -28,6 +28,7 @@ void MlnEditor::SetText(std::string text) {
   styles.resize(text.size(), kPlain);
   styles_.Assign(std::move(styles));
   text_.Assign(std::move(text));
+  ++revision_;
   Modified = false;
   selStart_ = selLength_ = editedFrom_ = editedTo_ = 0;
   caretAtStart_ = false;
@@ -49,6 +50,7 @@ bool MlnEditor::IsLineStart(std::size_t offset) const {
 }
 
 LineStarts::Change MlnEditor::Replace(std::size_t offset, std::size_t removed, std::string_view inserted) {
+  ++revision_;
   std::copy(inserted.begin(), inserted.end(), text_.Replace(offset, removed, inserted.size()));
   std::fill_n(styles_.Replace(offset, removed, inserted.size()), inserted.size(), kPlain);
   // A line end may come to be, or cease to be, at either edge: a CR and a LF meet or part there.

@@ -68,6 +68,8 @@ class MlnEditor {
   std::size_t Length() const { return text_.Size(); }
   char At(std::size_t offset) const { return text_.At(offset); }
   std::string Slice(std::size_t offset, std::size_t length) const;
+  // A number that grows with every change of the text.
+  std::uint64_t Revision() const { return revision_; }
   // The two stretches of text in front of and behind the gap.
   std::string_view FrontText() const { return {text_.Front(), text_.GapStart()}; }
   std::string_view BackText() const { return {text_.Back(), text_.Size() - text_.GapStart()}; }
@@ -160,6 +162,7 @@ class MlnEditor {
   GapBuffer<std::string> text_;
   GapBuffer<std::vector<Style>> styles_;
   LineStarts lines_;
+  std::uint64_t revision_ = 0;
   std::size_t selStart_ = 0, selLength_ = 0;
   bool caretAtStart_ = false;
   double wantedPlace_ = -1;  // the horizontal place that up and down keep; negative when none

@@ -6,6 +6,7 @@
 #include "core/document.h"
 #include "core/documents.h"
 #include "core/preview.h"
+#include "core/recovery.h"
 #include "core/text.h"
 #include "core/timers.h"
 #include "core/toolbars.h"
@@ -69,6 +70,7 @@ Morlan::Morlan(Program& program) : Form("Morlan", "Morlan7 - Edytor HTML - Wersj
   SelViewer.SetToolTip("Strona w oknie edytora (Shift+F5)");
   SelViewer.OnClick = [&program] { SelViewer_Click(program); };
   Timer1.OnTimer = [&program] { Timer1_Timer(program); };
+  safetyTimer.OnTimer = [&program] { KeepChanges(program); };
   TimeCounter.OnTimer = [&program] { TimeCounter_Timer(program); };
 }
 

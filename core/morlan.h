@@ -60,6 +60,7 @@ class Morlan : public Form {
 
   Timer Timer1{*this, "Timer1", 750};
   Timer TimeCounter{*this, "TimeCounter", 65535};
+  Timer safetyTimer{*this, "safetyTimer", 5000};
 
   std::string currentTagList = "tags1";  // the key of the list that `tags` shows
   bool cdfMode = false;

@@ -6,6 +6,7 @@
 #include "core/documents.h"
 #include "core/frmbrowser.h"
 #include "core/paths.h"
+#include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
 
@@ -41,7 +42,7 @@ const std::string& ShownFile(const Program& program) {
 
 }  // namespace
 
-void PreviewDocument(Program& program) { PreviewInBrowser(program, program.MainIni.GetSubItemValue("Browser", "Current")); }
+void PreviewDocument(Program& program) { PreviewInBrowser(program, Settings(program.MainIni).Text(Setting::CurrentBrowser)); }
 
 void PreviewInBrowser(Program& program, std::string_view browser) {
   if (!program.ActiveDocument) return;

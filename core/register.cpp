@@ -1,4 +1,5 @@
 #include "core/register.h"
+#include "core/recovery.h"
 
 #include "core/about.h"
 #include "core/alwaysview.h"
@@ -16,6 +17,7 @@
 #include "core/paths.h"
 #include "core/preview.h"
 #include "core/printing.h"
+#include "core/recovery.h"
 
 namespace morlan {
 namespace {
@@ -90,6 +92,7 @@ constexpr CommandRow kCommands[] = {
     {"xmn_previousdocument", "", [](Program& program) { ActivateNextDocument(program, -1); }},
     {"xmn_configuration", "", ShowConfiguration},
     {"xmn_about", "", ShowAbout},
+    {"xmn_recovery", "", ShowRecovery},
 };
 
 }  // namespace
@@ -109,6 +112,7 @@ void RegisterCore(Program& program) {
   program.forms.OnShow("Browsers", [&program] { ShowBrowsers(program); });
   program.forms.OnShow("configuration", [&program] { ShowConfiguration(program); });
   program.commands.OnToolbar("Toolbar20", "config", [&program] { ShowConfiguration(program); });
+  program.forms.OnShow("Recovery", [&program] { ShowRecovery(program); });
   program.forms.OnShow("about", [&program] { ShowAbout(program); });
 }
 

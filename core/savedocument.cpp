@@ -4,6 +4,7 @@
 #include "core/documents.h"
 #include "core/morlan.h"
 #include "core/paths.h"
+#include "core/safetystore.h"
 #include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
@@ -48,6 +49,8 @@ std::string MakeBackup(Program& program, std::string_view path) {
 
 // The backup is a copy and the file is replaced in one go, so that a failed write leaves everything as it was.
 bool WriteWithBackup(Program& program, std::string_view path, std::string_view bytes) {
+  if (program.safety)
+    if (auto old = program.platform.files.Read(path)) program.safety->KeepReplaced(path, *std::move(old));
   const bool wanted = Settings(program.MainIni).Flag(Setting::CreateBackup);
   const std::string backup = wanted ? MakeBackup(program, path) : std::string();
   if (program.platform.files.Write(path, bytes)) return true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,12 +19,21 @@ struct DirectoryEntry {
   std::uint64_t size = 0;
 };
 
+// The content of a file where it lies. A file that is replaced meanwhile stays readable as it was.
+class MappedFile {
+ public:
+  virtual ~MappedFile() = default;
+  virtual std::string_view Bytes() const = 0;
+};
+
 class Files {
  public:
   virtual ~Files() = default;
 
   // The whole content; nothing when the file cannot be read or is a directory.
   virtual std::optional<std::string> Read(std::string_view path) = 0;
+  // The same without a copy, for large files of which little is needed; null where Read gives nothing.
+  virtual std::unique_ptr<MappedFile> Map(std::string_view path) = 0;
   // Replaces the file in one go: a reader sees the old bytes or the new ones, and a failure leaves the old.
   virtual bool Write(std::string_view path, std::string_view bytes) = 0;
   // Writes over the file from its first byte on and leaves what lies behind; makes a missing file.

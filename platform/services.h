@@ -50,6 +50,18 @@ class Processes {
   virtual bool Open(std::string_view path) = 0;
 };
 
+// Changes of files that nobody waits for.
+class BackgroundFiles {
+ public:
+  virtual ~BackgroundFiles() = default;
+  // Like Files::Write and Files::Delete, soon, and in the order of the calls; a call takes the place of an earlier one for
+  // the same path that still waits. Failures are silent.
+  virtual void Write(std::string_view path, std::string bytes) = 0;
+  virtual void Delete(std::string_view path) = 0;
+  // Waits until all is done; false when that took longer.
+  virtual bool Finish(int milliseconds) = 0;
+};
+
 class Clipboard {
  public:
   virtual ~Clipboard() = default;

@@ -146,6 +146,11 @@ std::optional<std::string> PosixFiles::Read(std::string_view path) {
   return existing ? native::Read(*existing) : std::nullopt;
 }
 
+std::unique_ptr<MappedFile> PosixFiles::Map(std::string_view path) {
+  const auto existing = Existing(path);
+  return existing ? native::Map(*existing) : nullptr;
+}
+
 bool PosixFiles::Write(std::string_view path, std::string_view bytes) {
   const std::optional<std::string> place = Place(path);
   return place && !place->ends_with('/') && native::Replace(*place, bytes);

@@ -1,6 +1,7 @@
 #include "platform/posix/nativeio.h"
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -92,6 +93,22 @@ void KeepRights(int descriptor, const struct stat& old) {
   if (::fchmod(descriptor, mode) != 0) return;  // the file keeps the private rights with which it was made
 }
 
+class Mapping : public MappedFile {
+ public:
+  // `start` is where the system has put the bytes; null for an empty file.
+  Mapping(void* start, std::size_t size) : start_(start), size_(size) {}
+  ~Mapping() override {
+    if (start_) ::munmap(start_, size_);
+  }
+  Mapping(const Mapping&) = delete;
+  Mapping& operator=(const Mapping&) = delete;
+  std::string_view Bytes() const override { return {static_cast<const char*>(start_), size_}; }
+
+ private:
+  void* start_;
+  std::size_t size_;
+};
+
 mode_t CurrentMask() {
   const mode_t mask = ::umask(077);
   ::umask(mask);
@@ -182,6 +199,17 @@ std::optional<std::string> Read(const std::string& path) {
     errno = ENOMEM;
   }
   return std::nullopt;
+}
+
+std::unique_ptr<MappedFile> Map(const std::string& path) {
+  const Descriptor file(OpenRegular(path, O_RDONLY));
+  if (!file) return nullptr;
+  const off_t size = SizeOf(file.Number());
+  if (size > kLargestFile) return nullptr;
+  if (size == 0) return std::make_unique<Mapping>(nullptr, 0);
+  const auto length = static_cast<std::size_t>(size);
+  void* const start = ::mmap(nullptr, length, PROT_READ, MAP_PRIVATE, file.Number(), 0);
+  return start == MAP_FAILED ? nullptr : std::make_unique<Mapping>(start, length);
 }
 
 bool Replace(const std::string& path, std::string_view bytes) {

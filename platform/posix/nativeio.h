@@ -5,9 +5,12 @@
 #include <sys/stat.h>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/files.h"
 
 namespace morlan::native {
 
@@ -32,6 +35,7 @@ bool IsRegularFile(const std::string& path);
 
 // The whole content of a regular file below 2 GB; errno tells why there is none.
 std::optional<std::string> Read(const std::string& path);
+std::unique_ptr<MappedFile> Map(const std::string& path);
 
 // Replaces the file by a new one that is flushed before it takes the name. Links are followed and stay, permissions too.
 // Where the directory lets no file be made but the file itself may be written, it is rewritten where it lies, and put

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cctype>
 #include <csignal>
+#include <filesystem>
 #include <system_error>
 #include <thread>
 
@@ -110,6 +111,28 @@ bool Spawn(const std::vector<std::string>& arguments, const std::string& directo
 }
 
 }  // namespace
+
+namespace {
+
+// The file name of a process's program, also where that file has been replaced meanwhile; empty when there is no such process.
+std::string ProgramOf(std::uint64_t process) {
+  std::error_code error;
+  const auto link = std::filesystem::read_symlink("/proc/" + std::to_string(process) + "/exe", error);
+  if (error) return "";
+  constexpr std::string_view kReplaced = " (deleted)";
+  std::string name = link.filename().string();
+  if (name.ends_with(kReplaced)) name.resize(name.size() - kReplaced.size());
+  return name;
+}
+
+}  // namespace
+
+std::uint64_t OwnProcess() { return static_cast<std::uint64_t>(::getpid()); }
+
+bool IsRunningMorlan7(std::uint64_t process) {
+  const std::string own = ProgramOf(OwnProcess()), other = ProgramOf(process);
+  return !other.empty() && other == own;
+}
 
 PosixProcesses::PosixProcesses(Files& files) : files_(files) {}
 

@@ -1,11 +1,18 @@
 // Starts other programs without a shell.
 #pragma once
 
+#include <cstdint>
+
 #include "platform/services.h"
 
 namespace morlan {
 
 class Files;
+
+// The number of this process.
+std::uint64_t OwnProcess();
+// Whether the process of that number is this program, started by anyone.
+bool IsRunningMorlan7(std::uint64_t process);
 
 class PosixProcesses : public Processes {
  public:

@@ -18,7 +18,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kIniName = "/Morlan7.ini";
-constexpr const char* kSheetsName = "/Morlan7.tpf";
+constexpr const char* kDefinitions[] = {"/Morlan7.tpf",           "/CharSets.Def",          "/SLOWNIKI/morlan7s.pol",
+                                        "/SLOWNIKI/morlan7i.pol", "/SLOWNIKI/morlan7s.ang", "/SLOWNIKI/morlan7i.ang"};
 constexpr std::string_view kIcons = "icons";
 
 std::string Variable(const char* name) {
@@ -59,15 +60,20 @@ bool CopyTree(const fs::path& from, const fs::path& to) {
   return copied && !error;
 }
 
-// A folder that an older version has made lacks the sheets, without which the program shows none.
-bool AddSheets(const std::string& program, const std::string& shippedData) {
-  if (shippedData.empty() || native::Status(program + kSheetsName)) return true;
-  const auto sheets = native::Read(shippedData + kSheetsName);
-  return !sheets || native::Replace(program + kSheetsName, *sheets);
+// A folder that an older version has made lacks definitions that came later.
+bool AddDefinitions(const std::string& program, const std::string& shippedData) {
+  bool added = true;
+  for (const char* name : kDefinitions) {
+    if (shippedData.empty() || native::Status(program + name)) continue;
+    const auto bytes = native::Read(shippedData + name);
+    const bool hasFolder = bytes && native::MakeDirectories(native::DirectoryOf(program + name));
+    added = (!bytes || (hasFolder && native::Replace(program + name, *bytes))) && added;
+  }
+  return added;
 }
 
 bool FillProgramFolder(const std::string& program, const std::string& shippedData) {
-  if (native::Status(program)) return AddSheets(program, shippedData);
+  if (native::Status(program)) return AddDefinitions(program, shippedData);
   if (!IsShippedTree(shippedData) || !native::MakeDirectories(native::DirectoryOf(program))) return false;
   std::string fresh = program + "-XXXXXX";
   if (!::mkdtemp(fresh.data())) return false;
@@ -92,6 +98,12 @@ ProfileFolders UserFolders() {
   const std::string temp = Variable("temp");
   return {BaseFolder("XDG_CONFIG_HOME", "/.config") + "/morlan7", BaseFolder("XDG_DATA_HOME", "/.local/share") + "/morlan7",
           temp.starts_with('/') && native::IsDirectory(temp) ? temp : ""};
+}
+
+std::string UserStateFolder() {
+  const std::string folder = BaseFolder("XDG_STATE_HOME", "/.local/state") + "/morlan7";
+  // One that was made with wider rights is closed, since it holds whole texts.
+  return native::MakeDirectories(folder) && ::chmod(folder.c_str(), S_IRWXU) == 0 ? folder : "";
 }
 
 ProfileFolders FoldersBelow(const std::string& profile) { return {profile + "/windows", profile + "/program", profile + "/temp"}; }

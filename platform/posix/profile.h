@@ -12,6 +12,10 @@ struct ProfileFolders {
   std::string temp;     // empty: a private one, made when it is asked for and removed at the end
 };
 
+// $XDG_STATE_HOME/morlan7 or its place below the home folder, which only the user can enter: for texts kept against loss. It is
+// made where it is missing; empty when that cannot be.
+std::string UserStateFolder();
+
 // $XDG_CONFIG_HOME/morlan7 and $XDG_DATA_HOME/morlan7, or their places below the home folder. "temp" is the environment's
 // variable of that name, if it names a folder.
 ProfileFolders UserFolders();
@@ -27,7 +31,7 @@ std::string NativeExecutableDirectory();
 std::optional<std::string> FindShippedData(const std::string& installed = "");
 
 // Makes the folders that are missing. A missing program folder gets a copy of the shipped tree, without its icons, in one
-// go; a missing Morlan7.ini of the Windows folder and a missing Morlan7.tpf of the program folder come from there too. What
+// go; a missing Morlan7.ini of the Windows folder, Morlan7.tpf and CharSets.Def of the program folder come from there too. What
 // exists is never touched. False when something could not be made.
 bool FillProfile(const ProfileFolders& folders, const std::string& shippedData);
 

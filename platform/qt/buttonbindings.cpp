@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -45,9 +46,17 @@ class LabelBinding : public ControlBinding {
  public:
   LabelBinding(Control& label, QLabel* widget) : ControlBinding(label, widget), label_(label), widget_(widget) {
     widget->setTextFormat(Qt::PlainText);
+    if (label.OnClick) widget->setCursor(Qt::PointingHandCursor);
     Update(Aspect::Caption);
   }
   void Update(Aspect) override { widget_->setText(WithoutMnemonic(ToQt(label_.Caption()))); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool isClick = watched == widget_ && event->type() == QEvent::MouseButtonRelease;
+    if (isClick && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) label_.UserClicks();
+    return ControlBinding::eventFilter(watched, event);
+  }
 
  private:
   Control& label_;

@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
 
 #include <malloc.h>
 
 #include "core/morlan.h"
+#include "core/recovery.h"
 #include "platform/qt/pictureofwindow.h"
 #include "platform/qt/style.h"
 
@@ -35,6 +37,15 @@ void Desktop::Start(Program& program) {
   // A picture is of the window, not of the greeting above it.
   if (IsPictureWanted()) program.frame().splashShown = true;
   frontEnd_.Show(program);
+  termination_.Watch([&program] {
+    KeepChangesNow(program);
+    QCoreApplication::exit(0);
+  });
+  // The desktop ends without questions: what is not saved is kept, and offered at the next start.
+  QObject::connect(
+      qApp, &QGuiApplication::commitDataRequest, qApp, [&program] { KeepChangesNow(program); }, Qt::DirectConnection);
+  // In the event loop, which a signal can end.
+  if (!IsPictureWanted()) QTimer::singleShot(0, qApp, [&program] { OfferLeftBehind(program); });
 }
 
 void Desktop::Finish() { frontEnd_.Hide(); }

@@ -6,6 +6,7 @@
 #include "platform/qt/qtfrontend.h"
 #include "platform/qt/qtprinter.h"
 #include "platform/qt/qtwindows.h"
+#include "platform/qt/termination.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/windowplaces.h"
 
@@ -42,6 +43,7 @@ class Desktop {
   Theme theme_;
   QtWindows windows_;
   QtFrontEnd frontEnd_;
+  Termination termination_;
 };
 
 // Settings of the process and of the toolkit that must be made before there is a QApplication, and behind it.

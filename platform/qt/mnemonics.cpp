@@ -41,15 +41,20 @@ void Part(QWidget& widget, QSet<QChar>& taken) {
 
 QString WithFreeMnemonic(const QString& caption, const QSet<QChar>& taken) {
   const QString plain = WithoutMnemonic(caption);
-  const auto isFree = [&](qsizetype i) { return plain[i].isLetterOrNumber() && !taken.contains(plain[i].toLower()); };
-  const auto marked = [&](qsizetype i) {
-    return QString(plain.left(i)).replace(u'&', QStringLiteral("&&")) + u'&' + QString(plain.mid(i)).replace(u'&', QStringLiteral("&&"));
-  };
-  for (qsizetype i = 0; i < plain.size(); ++i)
-    if (isFree(i) && (i == 0 || plain[i - 1].isSpace())) return marked(i);
-  for (qsizetype i = 0; i < plain.size(); ++i)
-    if (isFree(i)) return marked(i);
-  return QString(plain).replace(u'&', QStringLiteral("&&"));
+  const auto escaped = [](QStringView text) { return text.toString().replace(u'&', QStringLiteral("&&")); };
+  const auto beginsWord = [&](qsizetype i) { return i == 0 || plain[i - 1].isSpace(); };
+  const auto hasKey = [&](qsizetype i) { return plain[i].unicode() < 0x80; };
+  qsizetype best = -1;
+  int bestRank = 0;
+  for (qsizetype i = 0; i < plain.size(); ++i) {
+    if (!plain[i].isLetterOrNumber() || taken.contains(plain[i].toLower())) continue;
+    const int rank = 1 + (beginsWord(i) ? 1 : 0) + (hasKey(i) ? 2 : 0);
+    if (rank <= bestRank) continue;
+    bestRank = rank;
+    best = i;
+  }
+  if (best < 0) return escaped(plain);
+  return escaped(QStringView(plain).left(best)) + u'&' + escaped(QStringView(plain).mid(best));
 }
 
 void PartMnemonics(QWidget& dialog) {

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace morlan {
 
-// Moves the mark of a caption to its first letter that is free, one that begins a word if there is such; takes the mark away
-// where none is free.
+// Moves the mark of a caption to its first letter that is free: one with a key of its own before a Polish one, one that begins a
+// word before others. Takes the mark away where none is free.
 QString WithFreeMnemonic(const QString& caption, const QSet<QChar>& taken);
 
 // Lets no two controls that are seen together have the same letter: the first one keeps it. Pages that lie behind each other may

@@ -41,7 +41,7 @@ class SampleBinding : public ControlBinding {
   void ShowColour() {
     const Colour shown = ReadableOn(sample_.TextColour(), FromQColor(widget_->palette().color(QPalette::Base)));
     QPalette palette;
-    palette.setColor(QPalette::WindowText, QColor(RedOf(shown), GreenOf(shown), BlueOf(shown)));
+    palette.setColor(widget_->foregroundRole(), QColor(RedOf(shown), GreenOf(shown), BlueOf(shown)));
     widget_->setPalette(palette);
   }
 

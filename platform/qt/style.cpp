@@ -12,13 +12,15 @@ namespace {
 // Outlines are drawn somewhat darker than the window, which nobody can see on a dark one: while one is drawn, the
 // option says that the window is this light.
 constexpr QRgb kWindowOfDarkOutlines = 0x757b85;
-constexpr qreal kGroupRadius = 3, kBelowTitle = 3.5;
+constexpr qreal kGroupRadius = 3, kBelowTitle = 3.5, kFocusRadius = 2, kFocusInset = 3.5;
 constexpr float kGroupLine = 0.18F;
 
 class VisibleOutline {
  public:
   explicit VisibleOutline(const QStyleOption& option) : option_(const_cast<QStyleOption&>(option)), palette_(option.palette) {
-    if (palette_.color(QPalette::Window).lightness() < 128) option_.palette.setColor(QPalette::Window, QColor(kWindowOfDarkOutlines));
+    if (palette_.color(QPalette::Window).lightness() >= 128) return;
+    option_.palette.setColor(QPalette::Window, QColor(kWindowOfDarkOutlines));
+    option_.palette.setColor(QPalette::Highlight, palette_.color(QPalette::Link));
   }
   ~VisibleOutline() { option_.palette = palette_; }
   VisibleOutline(const VisibleOutline&) = delete;
@@ -48,6 +50,15 @@ void DrawGroup(const QStyleOption& option, QPainter& painter, const QWidget* wid
   painter.restore();
 }
 
+// The outline of a button tells too little: that of the default button looks the same.
+void DrawFocusOfButton(const QStyleOption& option, QPainter& painter) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(option.palette.color(QPalette::Link));
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset), kFocusRadius, kFocusRadius);
+  painter.restore();
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("fusion")) {}
@@ -67,8 +78,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
   if (element == PE_FrameGroupBox) return DrawGroup(*option, *painter, widget);
   for (const PrimitiveElement outlined : kOutlined) {
     if (element != outlined) continue;
-    const VisibleOutline visible(*option);
-    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    {
+      const VisibleOutline visible(*option);
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    if (element == PE_PanelButtonCommand && option->state & State_HasFocus) DrawFocusOfButton(*option, *painter);
+    return;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }

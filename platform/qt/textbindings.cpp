@@ -38,6 +38,13 @@ class LineBinding : public ControlBinding {
   QLineEdit* widget_;
 };
 
+// A few lines, where the toolkit would take room for many.
+class FewLines : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+  QSize sizeHint() const override { return minimumSize(); }
+};
+
 // Line ends are CR LF in the control and LF in the widget.
 class LinesBinding : public ControlBinding {
  public:
@@ -85,7 +92,7 @@ class SpinBinding : public ControlBinding {
 }  // namespace
 
 std::unique_ptr<ControlBinding> BindTextBox(TextBox& box, BindingContext& context) {
-  if (box.IsMultiLine()) return std::make_unique<LinesBinding>(box, new QPlainTextEdit(context.parent));
+  if (box.IsMultiLine()) return std::make_unique<LinesBinding>(box, new FewLines(context.parent));
   return std::make_unique<LineBinding>(box, new QLineEdit(context.parent));
 }
 
