@@ -21,7 +21,7 @@ CFMAIL::CFMAIL(Program& program) : ServerDialog(program, "CFMAIL", "CFMAIL") {
   MailFrom.SetToolTip("Adres nadawcy");
   Subject.SetToolTip("Temat listu");
   MailQuery.SetToolTip("Nazwa zapytania, z którego wyników powstaje list"_pl);
-  layout = layout::Rows(layout::Field("&Do", MailTo), layout::Field("&Kopia", cc_), layout::Field("&Od", MailFrom),
+  layout = layout::Rows(layout::Field("Od&biorca", MailTo), layout::Field("&Kopia", cc_), layout::Field("&Nadawca", MailFrom),
                         layout::Field("&Temat", Subject), layout::Field("&Zapytanie", MailQuery), layout::ButtonRow(Command2, Command1));
 }
 

@@ -16,10 +16,11 @@ std::string ItemText(const ItemValues& values) {
 
 Channel_Item::Channel_Item(Program& program) : ServerDialog(program, "Channel_Item", "Element kanału"_pl) {
   Remember(HREF, "Listy\\CHHref.lst");
-  FillChoices(PreCache, {"YES", "NO"});
+  for (const std::string_view choice : {"YES", "NO"}) PreCache.AddItem(choice);
   SetUp(Command2, Command1);
   SetUpFileButton(program, hrefFile, HREF, kPageFiles);
   HREF.WidthInCharacters = 32;
+  PreCache.WidthInCharacters = 8;
   Level.WidthInCharacters = 6;
   HREF.SetToolTip("Strona, do której prowadzi element"_pl);
   ModDate.SetToolTip("Kiedy strona zmieniła się ostatnio"_pl);
@@ -33,7 +34,7 @@ Channel_Item::Channel_Item(Program& program) : ServerDialog(program, "Channel_It
 
 void Channel_Item::Read(std::string_view tag) {
   HREF.SetText(GetTagTextParam(tag, "href"));
-  PreCache.SetListIndex(PreCache.ListFind(GetTagTextParam(tag, "precache")));
+  ShowChoice(PreCache, GetTagTextParam(tag, "precache"));
   Level.SetText(GetTagTextParam(tag, "level"));
   ModDate.SetText(GetTagTextParam(tag, "lastmod"));
 }

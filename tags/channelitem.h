@@ -20,7 +20,7 @@ struct Channel_Item : ServerDialog {
   Button hrefFile{*this, "hrefFile", "..."};
   TextBox ModDate{*this, "ModDate"};
   Label sample{*this, "sample", "YYYY-MM-DDTHH:MM+HHMM"};
-  ComboBox PreCache{*this, "PreCache", ComboBox::Style::ListOnly};
+  ComboBox PreCache{*this, "PreCache"};
   TextBox Level{*this, "Level"};
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};
 

@@ -18,6 +18,7 @@ Channel_Logo::Channel_Logo(Program& program) : ServerDialog(program, "Channel_Lo
   SetUp(Command2, Command1);
   SetUpFileButton(program, itemsFile, Items, kPictureFiles);
   Items.WidthInCharacters = 32;
+  Typ.WidthInCharacters = 12;
   Items.SetToolTip("Rysunek, który przedstawia kanał"_pl);
   Typ.SetToolTip("Mały znak na liście kanałów albo większy rysunek"_pl);
   layout = layout::Rows(layout::Field("&Logo", Items, &itemsFile), layout::Field("&Styl", Typ), layout::ButtonRow(Command2, Command1));

@@ -53,10 +53,11 @@ PropertiesParam::PropertiesParam(Program& program) : Form("PropertiesParam", "Pa
 }
 
 Layout PropertiesParam::FieldRows() {
+  // What comes and goes with the kind stands last, so that the other fields keep their places.
   return layout::Rows(layout::Field("Op&is znacznika", Info), layout::Field("&Nazwa parametru", name_), layout::Field("&Rodzaj", Style),
-                      layout::Field("O&kienko", DialogType), DialogVisible, UseFile, layout::Field("Pl&ik z listą"_pl, FileList),
-                      layout::Field("&Zawartość"_pl, Content), layout::Columns(AddButton, DelButton, layout::Stretch()),
-                      layout::Field("&Wartość domyślna"_pl, DefaultValue), layout::ButtonRow(Command2, Command1));
+                      layout::Field("&Wartość domyślna"_pl, DefaultValue), layout::Field("O&kienko", DialogType), DialogVisible, UseFile,
+                      layout::Field("Pl&ik z listą"_pl, FileList), layout::Field("&Zawartość"_pl, Content),
+                      layout::Columns(AddButton, DelButton, layout::Stretch()), layout::ButtonRow(Command2, Command1));
 }
 
 void PropertiesParam::SetUpToolTips() {

@@ -16,13 +16,13 @@ struct PropertiesParam : Form {
   TextBox Info{*this, "Info"};    // of the tag, not of the attribute
   TextBox name_{*this, "name_"};  // of the attribute
   ComboBox Style{*this, "Style", ComboBox::Style::ListOnly};
+  ComboBox DefaultValue{*this, "DefaultValue"};
   ComboBox DialogType{*this, "DialogType", ComboBox::Style::ListOnly};
   CheckBox DialogVisible{*this, "DialogVisible", "Pokaż &przycisk okienka"_pl, true};
   CheckBox UseFile{*this, "UseFile", "Użyj p&liku"_pl};
   ComboBox FileList{*this, "FileList"};
   ListBox Content{*this, "Content"};
   Button AddButton{*this, "AddButton", "&Dodaj"}, DelButton{*this, "DelButton", "&Usuń"_pl};
-  ComboBox DefaultValue{*this, "DefaultValue"};
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};
 
   explicit PropertiesParam(Program& program);

@@ -2,6 +2,9 @@
 find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport Svg DBus)
 
 file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/desktop/*_test.cpp)
+if(NOT TARGET webview)
+  list(FILTER sources EXCLUDE REGEX internalviewer_test)
+endif()
 file(GLOB support CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/support/*.cpp ${PROJECT_SOURCE_DIR}/tests/desktop/support/*.cpp)
 add_executable(tests_desktop ${sources} ${support})
 target_link_libraries(tests_desktop PRIVATE assemble qt icons posix script Qt6::PrintSupport GTest::gtest)
@@ -20,6 +23,6 @@ foreach(scale IN ITEMS 1.25 1.5 2)
 endforeach()
 
 # Takes the pictures for tools/picture-forms.
-add_executable(picture_forms ${PROJECT_SOURCE_DIR}/tests/desktop/picture_forms.cpp ${PROJECT_SOURCE_DIR}/tests/desktop/support/formtour.cpp)
+add_executable(picture_forms ${PROJECT_SOURCE_DIR}/tests/desktop/support/pictures/picture_forms.cpp ${PROJECT_SOURCE_DIR}/tests/desktop/support/formtour.cpp)
 target_link_libraries(picture_forms PRIVATE assemble qt icons posix)
 add_dependencies(picture_forms shipped-tree)

@@ -88,10 +88,15 @@ TEST_F(BrowsersTest, WithoutBrowsersItTellsWhereTheyAreAdded) {
   Show([](Browsers& form) { EXPECT_FALSE(form.Hint.Visible()); });
 }
 
-TEST_F(BrowsersTest, AGarbledCountIsNoHarm) {
-  Store({"c:\\a.exe"}, "-4");
-  Show([](Browsers& form) { EXPECT_EQ(form.List.ListCount(), 0u); });
-  Store({"c:\\a.exe"}, "2000000000");
+TEST_F(BrowsersTest, AGarbledCountIsNone) {
+  for (const std::string_view count : {"-4", "x", "2000000000"}) {
+    Store({"c:\\a.exe"}, count);
+    Show([](Browsers& form) { EXPECT_EQ(form.List.ListCount(), 0u); });
+  }
+}
+
+TEST_F(BrowsersTest, ACountThatIsTooLargeStopsAtTheBrowsersThatThereAre) {
+  Store({"c:\\a.exe"}, "7");
   Show([](Browsers& form) { EXPECT_EQ(form.List.ListCount(), 1u); });
 }
 

@@ -180,6 +180,13 @@ TEST_F(Preview, EditingComesBackByTheSwitchAndByADocumentThatComesForward) {
   EXPECT_EQ(ShownViewer(program_), nullptr);
 }
 
+TEST_F(Preview, TheViewerGoesWithTheLastDocument) {
+  test_.OpenText("x");
+  SelViewer_Click(program_);
+  CloseAllDocuments(program_);
+  EXPECT_EQ(ShownViewer(program_), nullptr);
+}
+
 TEST_F(Preview, TheViewerStaysWhenTheWindowComesForward) {
   test_.OpenText("x");
   SelViewer_Click(program_);

@@ -16,6 +16,7 @@
 #include "core/documents.h"
 #include "platform/qt/editorview.h"
 #include "platform/qt/qttext.h"
+#include "platform/qt/statusline.h"
 #include "tests/desktop/support/desktopfixture.h"
 
 namespace morlan {
@@ -86,6 +87,7 @@ TEST_F(ConfigurationWindow, AColourIsSeenInTheTextAtOnce) {
 
 TEST_F(ConfigurationWindow, TheFontsColourIsSeenWhileColouringIsOff) {
   const QColor colour(0, 110, 90);
+  program.MainIni.SetSubItemValue("EditorFont", "FontSize", "30");
   Open([&](QWidget& modal) {
     Pages(modal).setCurrentIndex(1);
     InNextModal([&](QWidget& chooser) {
@@ -102,15 +104,18 @@ TEST_F(ConfigurationWindow, TheFontsColourIsSeenWhileColouringIsOff) {
 }
 
 TEST_F(ConfigurationWindow, PanelsComeAndGoAtOnce) {
-  auto& status = Named<QWidget>(Window(), "StatusBar");
-  EXPECT_TRUE(status.isVisible());
+  QWidget* status = nullptr;
+  for (QWidget* widget : Window().findChildren<QWidget*>())
+    if (dynamic_cast<StatusLine*>(widget)) status = widget;
+  ASSERT_NE(status, nullptr);
+  EXPECT_TRUE(status->isVisible());
   for (const bool visible : {false, true}) {
     Open([](QWidget& modal) {
       Pages(modal).setCurrentIndex(2);
       Named<QCheckBox>(modal, "SSCheck1(1)").click();
       Confirm(modal);
     });
-    EXPECT_EQ(status.isVisible(), visible);
+    EXPECT_EQ(status->isVisible(), visible);
   }
 }
 

@@ -207,9 +207,9 @@ TEST_F(FormDialogTest, ALabelThatTheLayoutLeavesOpenFollowsTheCaption) {
   });
 }
 
-TEST_F(FormDialogTest, TabGoesThroughTheControlsInTheirOrder) {
+TEST_F(FormDialogTest, TabGoesThroughTheControlsAsOneReadsAndToTheChosenOption) {
   OpenAndLeave([](QWidget& modal) {
-    const char* order[] = {"nazwa", "tresc", "wybor", "adres", "lista", "wiele", "duze", "lewa"};
+    const char* order[] = {"nazwa", "tresc", "wybor", "adres", "lista", "wiele", "lewa", "duze", "licznik"};
     Named<QWidget>(modal, order[0]).setFocus();
     for (const char* name : order) {
       ASSERT_NE(modal.focusWidget(), nullptr);

@@ -15,10 +15,10 @@ struct MovedRow {
   const char *caption, *taken, *moved;
 };
 
-TEST(Mnemonics, MoveToTheFirstFreeLetterOfAWordOrElseToAnyOther) {
+TEST(Mnemonics, MoveToTheFirstFreeLetterOfAWordOrElseToAnyOtherPolishOnesLast) {
   constexpr MovedRow kRows[] = {
-      {"&Użyj", "u", "U&żyj"},
-      {"&Użyj", "uż", "Uż&yj"},
+      {"&Użyj", "u", "Uż&yj"},
+      {"&Użyj", "uyj", "U&żyj"},
       {"&Nowy plik", "n", "Nowy &plik"},
       {"&Nowy plik", "np", "N&owy plik"},
       {"&Tom && Ala", "t", "Tom && &Ala"},

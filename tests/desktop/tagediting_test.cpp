@@ -61,7 +61,7 @@ class TagEditing : public DesktopTest {
     Settle();
     EXPECT_EQ(Text(), Page(kNarrower));
     EXPECT_TRUE(Window().isWindowModified());
-    EXPECT_TRUE(View().hasFocus());
+    EXPECT_TRUE(WaitFor([this] { return View().hasFocus(); }));
     PressIn(View(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Text(), Page(kPicture));
   }

@@ -8,6 +8,12 @@
 namespace morlan {
 namespace {
 
+struct MappedBytes : MappedFile {
+  explicit MappedBytes(std::string content) : bytes(std::move(content)) {}
+  std::string_view Bytes() const override { return bytes; }
+  const std::string bytes;
+};
+
 constexpr std::string_view kRoot = "c:\\";
 
 std::string_view ParentOf(std::string_view absolute) {
@@ -50,6 +56,11 @@ MemoryFiles::Node* MemoryFiles::Make(std::string_view path) {
 std::optional<std::string> MemoryFiles::Read(std::string_view path) {
   const Node* node = Find(path);
   return node && !node->isDirectory ? std::optional(node->bytes) : std::nullopt;
+}
+
+std::unique_ptr<MappedFile> MemoryFiles::Map(std::string_view path) {
+  auto bytes = Read(path);
+  return bytes ? std::make_unique<MappedBytes>(std::move(*bytes)) : nullptr;
 }
 
 bool MemoryFiles::Write(std::string_view path, std::string_view bytes) {

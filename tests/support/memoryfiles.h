@@ -16,6 +16,7 @@ class MemoryFiles : public Files {
   std::size_t writeCount = 0;  // changes of contents that took place
 
   std::optional<std::string> Read(std::string_view path) override;
+  std::unique_ptr<MappedFile> Map(std::string_view path) override;
   bool Write(std::string_view path, std::string_view bytes) override;
   bool WriteInPlace(std::string_view path, std::string_view bytes) override;
   bool Append(std::string_view path, std::string_view bytes, bool create = true) override;

@@ -20,6 +20,10 @@ TEST_F(ChannelChannel, IsReadAndWritten) {
   EXPECT_EQ(Rewritten("<CHANNEL LEVEL=\"0\">"), "<CHANNEL>");
 }
 
+TEST_F(ChannelChannel, AnAddressOfALabelLosesItsSignOnPurpose) {
+  EXPECT_EQ(Rewritten("<CHANNEL HREF=\"#gora\">"), "<CHANNEL HREF=\"gora\">");
+}
+
 TEST_F(ChannelChannel, CancelLeavesTheDocumentAlone) {
   ExpectCancelKeeps("<CHANNEL LEVEL=\"0\">");
   ExpectCancelInsertsNothing("Toolbar15", "channeldlg");

@@ -97,31 +97,35 @@ TEST_F(ChannelEditors, ADescriptionHasAnEditorThatTheMenuDoesNotReachOnPurpose) 
 }
 
 struct CommandCase {
-  std::string_view toolbars, key, before, after, title, info;
+  std::string_view toolbars, key, before, after, title, info, list;
 };
 
 const CommandCase kCommands[] = {
-    {"15 17", "author", "<AUTHOR VALUE=\"", "\"/>", "Autor", "Autor:"},
-    {"15 17", "publisher", "<PUBLISHER VALUE=\"", "\"/>", "Wydawca", "Wydawca:"},
-    {"15 17", "copyright", "<COPYRIGHT VALUE=\"", "\"/>", "Prawa autorskie", "Prawa autorskie:"},
-    {"15 17", "keywords", "<KEYWORDS VALUE=\"", "\"/>", "Słowa kluczowe"_pl, "Słowa kluczowe (rozdzielaj je przecinkiem):"_pl},
-    {"15", "intro", "<INTROURL VALUE=\"", "\"/>", "Strona wprowadzająca w temat kanału"_pl, "Adres URL:"},
-    {"15", "minstorage", "<MINSTORAGE VALUE=\"", "\"/>", "Ilość potrzebnego miejsca"_pl, "Ilość w KB"_pl},
-    {"15 17", "category", "<CATEGORY VALUE=\"", "\"/>", "Kategoria", "Kategoria:"},
-    {"15 17", "anchor", "<A HREF=\"", "\">x</A>", "Połączenie"_pl, "Adres URL:"},
-    {"19", "categoryname", "<CATEGORYNAME VALUE=\"", "\"/>", "Kategoria", "Kategoria:"},
-    {"19", "categorydesc", "<DESCRIPTION VALUE=\"", "\"/>", "Kategoria", "Opis kategorii:"},
+    {"15 17", "author", "<AUTHOR VALUE=\"", "\"/>", "Autor", "Autor:", "CHAuthor.lst"},
+    {"15 17", "publisher", "<PUBLISHER VALUE=\"", "\"/>", "Wydawca", "Wydawca:", "CHPub.lst"},
+    {"15 17", "copyright", "<COPYRIGHT VALUE=\"", "\"/>", "Prawa autorskie", "Prawa autorskie:", "CHCopyR.lst"},
+    {"15 17", "keywords", "<KEYWORDS VALUE=\"", "\"/>", "Słowa kluczowe"_pl, "Słowa kluczowe (rozdzielaj je przecinkiem):"_pl, "CHKey.lst"},
+    {"15", "intro", "<INTROURL VALUE=\"", "\"/>", "Strona wprowadzająca w temat kanału"_pl, "Adres URL:", "CHCopyR.lst"},
+    {"15", "minstorage", "<MINSTORAGE VALUE=\"", "\"/>", "Ilość potrzebnego miejsca"_pl, "Ilość w KB"_pl, ""},
+    {"15 17", "category", "<CATEGORY VALUE=\"", "\"/>", "Kategoria", "Kategoria:", "CHCat.lst"},
+    {"15 17", "anchor", "<A HREF=\"", "\">x</A>", "Połączenie"_pl, "Adres URL:", "HREF.lst"},
+    {"19", "categoryname", "<CATEGORYNAME VALUE=\"", "\"/>", "Kategoria", "Kategoria:", "CHCat.lst"},
+    {"19", "categorydesc", "<DESCRIPTION VALUE=\"", "\"/>", "Kategoria", "Opis kategorii:", ""},
 };
 
-TEST_F(ChannelEditors, EveryTextIsInserted) {
+TEST_F(ChannelEditors, EveryTextIsInsertedAndRemembered) {
   for (const CommandCase& row : kCommands)
     for (std::size_t at = 0; at < row.toolbars.size(); at += 3) {
-      const std::string toolbar = Concat({"Toolbar", row.toolbars.substr(at, 2)});
+      const std::string toolbar = Concat({"Toolbar", row.toolbars.substr(at, 2)}), list = Concat({"program\\Listy\\", row.list});
+      if (!row.list.empty()) test_.Write(list, "a\r\n");
       const auto fill = [&](Form& form) {
         ExpectQuestion(form, row.title, row.info);
         EXPECT_TRUE(form.Find("Items")->UserSetsText("kot"));
       };
       EXPECT_EQ(Inserted(toolbar, row.key, fill), Concat({row.before, "kot", row.after}));
+      if (!row.list.empty()) {
+        EXPECT_EQ(test_.Read(list), "a\r\nkot\r\n") << toolbar << " " << row.key;
+      }
     }
 }
 
@@ -153,6 +157,30 @@ TEST_F(ChannelEditors, PairsGoRoundTheSelection) {
     test_.OpenText("x").EditedText.Select(0, 1);
     EXPECT_TRUE(test_.program.commands.RunToolbar(row.toolbar, row.key));
     EXPECT_EQ(test_.Text(), row.text);
+  }
+}
+
+TEST_F(ChannelEditors, APairIsRepeated) {
+  test_.OpenText("");
+  EXPECT_TRUE(test_.program.commands.RunToolbar("Toolbar17", "title"));
+  EXPECT_TRUE(test_.program.commands.RunMenu("xmn_repeatlastinsertion"));
+  EXPECT_EQ(test_.Text(), "<TITLE><TITLE></TITLE></TITLE>");
+}
+
+TEST_F(ChannelEditors, QuotesAndLineEndsGoIntoTheTagAsTheyAre) {
+  EXPECT_EQ(Rewritten("<AUTHOR VALUE=\"a\"/>", {{"Items", "b\"\r\nc"}}), "<AUTHOR VALUE=\"b\"\r\nc\"/>");
+}
+
+TEST_F(ChannelEditors, AVeryLongValueIsKept) {
+  const std::string value(100000, 'x');
+  EXPECT_EQ(Rewritten("<KEYWORDS VALUE=\"a\"/>", {{"Items", value}}), Concat({"<KEYWORDS VALUE=\"", value, "\"/>"}));
+}
+
+TEST_F(ChannelEditors, ATitleAndAnAbstractHaveNoEntryInTheMenuOnPurpose) {
+  for (const std::string_view tag : {"<TITLE VALUE=\"a\"/>", "<ABSTRACT VALUE=\"a\"/>"}) {
+    test_.OpenText(tag).EditedText.Select(3, 0);
+    test_.program.ActiveDocument->EditedText_OnMouseDown(MouseButton::Right);
+    EXPECT_FALSE(test_.program.ActiveDocument->xmnm_editpopup.Find("xmn_item")->visible) << tag;
   }
 }
 

@@ -18,7 +18,11 @@ TEST_F(ChannelItem, IsReadAndWritten) {
   ExpectRoundTrip("<ITEM HREF=\"a.html\" LASTMOD=\"1998-05-04T12:30+0100\" PRECACHE=\"YES\" LEVEL=\"2\">");
   EXPECT_EQ(Rewritten("<item level=\"1\" precache=\"no\" href=\"a.html\" id=x>"),
             "<ITEM HREF=\"a.html\" LASTMOD=\"\" PRECACHE=\"NO\" LEVEL=\"1\">");
-  EXPECT_EQ(Rewritten("<ITEM PRECACHE=\"MAYBE\">"), "<ITEM HREF=\"\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\">");
+  EXPECT_EQ(Rewritten("<ITEM PRECACHE=\"DEFAULT\">"), "<ITEM HREF=\"\" LASTMOD=\"\" PRECACHE=\"DEFAULT\" LEVEL=\"\">");
+}
+
+TEST_F(ChannelItem, AValueWithoutQuotesIsNotReadOnPurpose) {
+  EXPECT_EQ(Rewritten("<ITEM HREF=a.html>"), "<ITEM HREF=\"\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\">");
 }
 
 TEST_F(ChannelItem, CancelLeavesTheDocumentAlone) {
@@ -30,6 +34,11 @@ TEST_F(ChannelItem, ANewOneGoesRoundTheSelection) {
   EXPECT_EQ(Inserted("Toolbar17", "itemdlg", {{"HREF", "n.html"}, {"PreCache", "YES"}, {"Level", "3"}}),
             "<ITEM HREF=\"n.html\" LASTMOD=\"\" PRECACHE=\"YES\" LEVEL=\"3\">x\r\n</ITEM>");
   EXPECT_EQ(test_.Read("program\\Listy\\CHHref.lst"), "n.html\r\n");
+}
+
+TEST_F(ChannelItem, TheLastAddressIsOfferedForANewOne) {
+  test_.Write("program\\Listy\\CHHref.lst", "a.html\r\nb.html\r\n");
+  EXPECT_EQ(Inserted("Toolbar17", "itemdlg"), "<ITEM HREF=\"b.html\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\">x\r\n</ITEM>");
 }
 
 TEST_F(ChannelItem, TheFileComesFromItsButton) {

@@ -41,12 +41,12 @@ TEST_F(PropertiesParamTest, OnlyTheFieldsOfTheKindAreShown) {
   const std::pair<int, std::string_view> rows[] = {
       {0, "Info name_ Style DefaultValue"},
       {1, "Info name_ Style DefaultValue"},
-      {2, "Info name_ Style UseFile Content AddButton DelButton DefaultValue"},
-      {3, "Info name_ Style UseFile FileList DefaultValue"},
+      {2, "Info name_ Style DefaultValue UseFile Content AddButton DelButton"},
+      {3, "Info name_ Style DefaultValue UseFile FileList"},
       {4, "Info name_ Style DefaultValue"},
       {5, "Info name_ Style DefaultValue"},
       {6, "Info name_ Style"},
-      {7, "Info name_ Style DialogType DialogVisible DefaultValue"},
+      {7, "Info name_ Style DefaultValue DialogType DialogVisible"},
   };
   for (const auto& [kind, expected] : rows) {
     form.Style.UserSelects(kind);

@@ -229,6 +229,14 @@ TEST(PropertyFile, ManyParametersThatShareALongListOfValuesAreNoWork) {
   EXPECT_FALSE(PropertyFile(bytes).Params(1));
 }
 
+TEST(PropertyFile, ValuesThatLieOnEachOtherAreReplacedWithoutHarm) {
+  // The second value begins within the first one, so writing that destroys the link to what follows.
+  PropertyFile file(TagBytes("a", 0, 89) + ParamBytes("b", 0, '2', "", 301) + ValueBytes("v", 303) + Field("", 80));
+  file.ReplaceParam(1, "b", {.name = "b", .kind = ParamKind::List, .values = {std::string(80, 'x'), std::string(80, 'y'), "z"}});
+  EXPECT_GE(file.Bytes().size(), 88u + 212 + 84);
+  EXPECT_EQ(NamesOf(file), Names{"a"});
+}
+
 TEST(PropertyFile, EveryShortenedFileIsReadWithoutHarm) {
   for (std::size_t length = 0; length <= kSample.size(); ++length) {
     PropertyFile file(kSample.substr(0, length));
