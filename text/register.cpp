@@ -6,12 +6,15 @@
 #include "core/paths.h"
 #include "text/amountinwords.h"
 #include "text/autoupdate.h"
-#include "text/documentcharset.h"
+#include "text/charsetcommands.h"
 #include "text/insertfileinfo.h"
 #include "text/jumptolabel.h"
 #include "text/momentforms.h"
 #include "text/search.h"
 #include "text/searchreplace.h"
+#include "text/selectlanguage.h"
+#include "text/spelling.h"
+#include "text/wordnotfound.h"
 
 namespace morlan {
 namespace {
@@ -41,6 +44,7 @@ constexpr CommandRow kCommands[] = {
     {"xmn_find", "search", "search", ShowDialog<SearchForm>},
     {"xmn_replace", "replace", "SearchReplace", ShowDialog<SearchReplace>},
     {"xmn_findnext", "", "", FindNext},
+    {"xmn_checkspeeling", "spelling", "", mn_checkspeeling_Click},
     {"xmn_jumptolabel", "", "JumpToLabel", ShowDialog<JumpToLabel>},
     {"xmn_insertdate", "", "InsertDate", ShowInsertion<InsertDate>},
     {"xmn_inserttime", "", "InsertTime", ShowInsertion<InsertTime>},
@@ -61,12 +65,13 @@ void RegisterCommands(Program& program) {
 }  // namespace
 
 void RegisterText(Program& program) {
-  program.passes.decode = [&program](std::string text, std::string_view path) { return DecodeCharSet(program, std::move(text), path); };
   program.passes.updateBlocks = [&program](std::string text, std::string_view path) {
     return UpdateStamps(program, std::move(text), path);
   };
-  program.passes.markCharset = MarkCharSet;
   program.tagState.targetActions[TargetAction::JumpToLabel] = [&program](const std::string& label) { GoToLabel(program, label); };
+  program.forms.OnShow("SelectLanguage", [&program] { ShowDialog<SelectLanguage>(program); });
+  program.forms.OnShow("WordNotFound", [&program] { ShowDialog<WordNotFound>(program); });
+  RegisterCharSets(program);
   RegisterCommands(program);
 }
 

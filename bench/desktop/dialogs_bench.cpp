@@ -39,10 +39,11 @@ void OpenForms(benchmark::State& state, Use use) {
     FormTour tour;
     double all = 0;
     for (const FormStop& stop : tour.Stops()) {
-      if (!stop.tag.empty()) continue;
+      // A form that shows a tag has been made already.
+      if (use == Use::First && !stop.tag.empty()) continue;
       if (use == Use::Again) OpenedIn(tour, stop);
-      times[stop.form].push_back(OpenedIn(tour, stop));
-      all += times[stop.form].back();
+      times[stop.Name()].push_back(OpenedIn(tour, stop));
+      all += times[stop.Name()].back();
     }
     state.SetIterationTime(all / 1000);
   }

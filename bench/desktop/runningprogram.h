@@ -46,7 +46,7 @@ class RunningProgram {
  private:
   static ProfileFolders Filled(const std::string& folder) {
     const ProfileFolders folders = FoldersBelow(folder);
-    FillProfile(folders, MORLAN7_TREE);
+    FillProfile(folders, FindShippedData().value_or(""));
     return folders;
   }
 

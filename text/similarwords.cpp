@@ -1,0 +1,118 @@
+#include "text/similarwords.h"
+
+#include <algorithm>
+#include <map>
+
+#include "platform/encoding.h"
+
+namespace morlan {
+namespace {
+
+// What one slip costs, and the most that the slips of a word may.
+constexpr int kHalfSlip = 1, kSlip = 2, kMostSlips = 4;
+constexpr std::size_t kLongestWord = 40;
+// Looking stops behind so many letters, so that no dictionary can hold the window up.
+constexpr int kMostSteps = 2'000'000;
+
+struct AlikeRow {
+  std::string_view written, meant;
+};
+constexpr AlikeRow kAlike[] = {
+    {"rz", "ż"_pl},   {"ż"_pl, "rz"},   {"ch", "h"},    {"h", "ch"},    {"u", "ó"_pl},  {"ó"_pl, "u"},  {"om", "ą"_pl}, {"on", "ą"_pl},
+    {"ą"_pl, "om"},   {"ą"_pl, "on"},   {"em", "ę"_pl}, {"en", "ę"_pl}, {"ę"_pl, "em"}, {"ę"_pl, "en"}, {"a", "ą"_pl},  {"c", "ć"_pl},
+    {"e", "ę"_pl},    {"l", "ł"_pl},    {"n", "ń"_pl},  {"o", "ó"_pl},  {"s", "ś"_pl},  {"z", "ź"_pl},  {"z", "ż"_pl},  {"ą"_pl, "a"},
+    {"ć"_pl, "c"},    {"ę"_pl, "e"},    {"ł"_pl, "l"},  {"ń"_pl, "n"},  {"ó"_pl, "o"},  {"ś"_pl, "s"},  {"ź"_pl, "z"},  {"ż"_pl, "z"},
+    {"ź"_pl, "ż"_pl}, {"ż"_pl, "ź"_pl}, {"ci", "ć"_pl}, {"ć"_pl, "ci"}, {"si", "ś"_pl}, {"ś"_pl, "si"}, {"zi", "ź"_pl}, {"ź"_pl, "zi"},
+    {"ni", "ń"_pl},   {"ń"_pl, "ni"},   {"i", "j"},     {"j", "i"},     {"i", "y"},     {"y", "i"},     {"sz", "rz"},   {"rz", "sz"},
+    {"d", "t"},       {"t", "d"},       {"b", "p"},     {"p", "b"},     {"w", "f"},     {"f", "w"},     {"g", "k"},     {"k", "g"},
+};
+
+class Search {
+ public:
+  Search(const WordAutomaton& words, std::string_view word, int most) : words_(words), word_(word), most_(most) {}
+
+  std::map<std::string, int> Run() {
+    Walk({words_.Start(), false, 0, 0});
+    return std::move(found_);
+  }
+
+ private:
+  struct At {
+    WordAutomaton::Place place;
+    bool wordEnds;       // what was walked is a word
+    std::size_t offset;  // of the letter that is to be met next
+    int cost;
+  };
+
+  void Walk(const At& at) {
+    if (++steps_ > kMostSteps) return;
+    const bool atEnd = at.offset == word_.size();
+    if (atEnd && at.wordEnds) Keep(at.cost);
+    if (!atEnd) Follow(at, word_.substr(at.offset, 1), 1, 0);
+    if (at.cost + kHalfSlip <= most_) TryAlike(at);
+    if (at.cost + kSlip <= most_) TrySlips(at);
+  }
+
+  void Keep(int cost) {
+    const auto [entry, isNew] = found_.try_emplace(walked_, cost);
+    if (!isNew) entry->second = std::min(entry->second, cost);
+  }
+
+  // Walks along letters that stand for the next ones of the word.
+  void Follow(const At& at, std::string_view letters, std::size_t met, int cost) {
+    At next{at.place, at.wordEnds, at.offset + met, at.cost + cost};
+    for (const char letter : letters) {
+      const auto arc = words_.FindArc(next.place, letter);
+      if (!arc) return;
+      next.place = arc->Next();
+      next.wordEnds = arc->WordEnds();
+    }
+    walked_ += letters;
+    Walk(next);
+    walked_.resize(walked_.size() - letters.size());
+  }
+
+  void TryAlike(const At& at) {
+    const std::string_view rest = word_.substr(at.offset);
+    for (const AlikeRow& row : kAlike)
+      if (rest.starts_with(row.written)) Follow(at, row.meant, row.written.size(), kHalfSlip);
+  }
+
+  void TrySlips(const At& at) {
+    const std::string_view rest = word_.substr(at.offset);
+    if (!rest.empty()) Walk({at.place, at.wordEnds, at.offset + 1, at.cost + kSlip});
+    if (rest.size() > 1 && rest[0] != rest[1]) {
+      const char swapped[] = {rest[1], rest[0]};
+      Follow(at, {swapped, 2}, 2, kSlip);
+    }
+    words_.VisitArcs(at.place, [&](WordAutomaton::Arc arc) {
+      walked_ += arc.Letter();
+      if (!rest.empty() && rest[0] != arc.Letter()) Walk({arc.Next(), arc.WordEnds(), at.offset + 1, at.cost + kSlip});
+      Walk({arc.Next(), arc.WordEnds(), at.offset, at.cost + kSlip});
+      walked_.pop_back();
+    });
+  }
+
+  const WordAutomaton& words_;
+  std::string_view word_;
+  int most_, steps_ = 0;
+  std::string walked_;
+  std::map<std::string, int> found_;
+};
+
+}  // namespace
+
+std::vector<std::string> SimilarWords(const WordAutomaton& words, std::string_view word, std::size_t most) {
+  if (word.empty() || word.size() > kLongestWord) return {};
+  // One slip first: two are looked for only where that finds nothing.
+  auto found = Search(words, word, kSlip).Run();
+  if (found.empty()) found = Search(words, word, kMostSlips).Run();
+  found.erase(std::string(word));
+  std::vector<std::pair<std::string, int>> nearest(found.begin(), found.end());
+  std::stable_sort(nearest.begin(), nearest.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+  std::vector<std::string> similar;
+  for (std::size_t i = 0; i < std::min(most, nearest.size()); ++i) similar.push_back(nearest[i].first);
+  return similar;
+}
+
+}  // namespace morlan
