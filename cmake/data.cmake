@@ -18,7 +18,7 @@ foreach(name IN LISTS names)
 endforeach()
 
 # The property sheets.
-add_executable(morlan7-sheets ${PROJECT_SOURCE_DIR}/app/morlan7-sheets.cpp)
+add_executable(morlan7-sheets ${PROJECT_SOURCE_DIR}/app/morlan7-sheets.cpp ${PROJECT_SOURCE_DIR}/app/toolfiles.cpp)
 target_link_libraries(morlan7-sheets PRIVATE tags)
 file(GLOB sheets CONFIGURE_DEPENDS ${data}/znaczniki/*.txt)
 add_custom_command(
@@ -29,7 +29,7 @@ add_custom_command(
 list(APPEND tree ${MORLAN7_TREE}/Morlan7.tpf)
 
 # The character sets.
-add_executable(morlan7-charsets ${PROJECT_SOURCE_DIR}/app/morlan7-charsets.cpp)
+add_executable(morlan7-charsets ${PROJECT_SOURCE_DIR}/app/morlan7-charsets.cpp ${PROJECT_SOURCE_DIR}/app/toolfiles.cpp)
 target_link_libraries(morlan7-charsets PRIVATE text)
 file(GLOB charsets CONFIGURE_DEPENDS ${data}/znaki/*.txt)
 add_custom_command(

@@ -16,11 +16,14 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
   return pieces;
 }
 
+// Programs have no ending of their own on this machine.
+bool MeansAnyFile(std::string_view pattern) { return pattern == "*.*" || EqualNoCase(pattern, "*.exe"); }
+
 std::vector<std::string> ReadPatterns(std::string_view text) {
   std::vector<std::string> patterns;
   for (const std::string_view piece : Split(text, ";,")) {
     const std::string_view pattern = Trim(piece);
-    if (!pattern.empty()) patterns.emplace_back(pattern == "*.*" ? "*" : pattern);
+    if (!pattern.empty()) patterns.emplace_back(MeansAnyFile(pattern) ? "*" : pattern);
   }
   return patterns;
 }

@@ -18,6 +18,10 @@ TEST(FileFilters, AllFilesHaveNoDot) {
   EXPECT_EQ(QtFilters("Wszystkie pliki (*.*)|*.*|"), QStringList{QStringLiteral("Wszystkie pliki (*)")});
 }
 
+TEST(FileFilters, ProgramsMayHaveAnyName) {
+  EXPECT_EQ(QtFilters("Pliki wykonywalne (*.EXE)|*.exe|"), QStringList{QStringLiteral("Pliki wykonywalne (*)")});
+}
+
 TEST(FileFilters, ADescriptionWithoutPatternsIsWhole) {
   const std::vector<FileFilter> filters = ReadFilters("Style|*.stl");
   ASSERT_EQ(filters.size(), 1u);
