@@ -14,6 +14,7 @@ namespace morlan {
 
 struct MomentKind {
   std::string_view form, title, type, separator, update;
+  std::string_view initial;  // the pattern at first
   std::span<const std::string_view> patterns;
   struct Part {
     std::string_view control, caption;
@@ -35,6 +36,7 @@ constexpr MomentKind kDate = {
     .type = "DATE",
     .separator = "/",
     .update = "&Uaktualniaj datę przy otwieraniu dokumentu"_pl,
+    .initial = "DD/MM/YYYY",
     .patterns = kDatePatterns,
     .parts = {{{"day_", "&Dzień"_pl, kDays}, {"month_", "&Miesiąc"_pl, kMonths}, {"year_", "&Rok", kYears}}},
 };
@@ -49,6 +51,7 @@ constexpr MomentKind kTime = {
     .type = "TIME",
     .separator = ":",
     .update = "&Uaktualniaj godzinę przy otwieraniu dokumentu"_pl,
+    .initial = "HH:MM",
     .patterns = kTimePatterns,
     .parts = {{{"hour_", "&Godzina", kHours}, {"minute_", "&Minuta", kMinutes}, {"second_", "&Sekunda", kSeconds}}},
 };
@@ -95,7 +98,7 @@ MomentForm::MomentForm(Program& program, const MomentKind& kind)
 }
 
 void MomentForm::Form_Load() {
-  if (Format_.Text().empty()) Format_.SetText(kind_.patterns[kind_.patterns.size() / 2]);
+  if (Format_.Text().empty()) Format_.SetText(kind_.initial);
   ShowSample();
 }
 
