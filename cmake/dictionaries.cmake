@@ -2,8 +2,11 @@
 set(MORLAN7_WORDS /usr/share/dict CACHE PATH "Folder of the word lists")
 set(dictionaries ${MORLAN7_TREE}/SLOWNIKI)
 
-add_executable(morlan7-dictionary ${PROJECT_SOURCE_DIR}/app/morlan7-dictionary.cpp)
-target_link_libraries(morlan7-dictionary PRIVATE text)
+# Of the room it has only what it needs, so that other changes do not build the dictionaries again.
+set(needed spellingbits wordautomaton wordautomatonbuilder)
+list(TRANSFORM needed REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/text/\\1.cpp")
+add_executable(morlan7-dictionary ${PROJECT_SOURCE_DIR}/app/morlan7-dictionary.cpp ${PROJECT_SOURCE_DIR}/app/toolfiles.cpp ${needed})
+target_link_libraries(morlan7-dictionary PRIVATE platform)
 install(TARGETS morlan7-dictionary)
 
 # morlan7_dictionary(EXTENSION PACKAGE LIST...): the package is the one whose licence is kept.

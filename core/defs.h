@@ -52,7 +52,7 @@ class Program {
   std::string TempDir;      // always ends in "\"
   std::string TempFile, PreviewFile, TempFileN, TempFileE;
   std::string AlwaysViewFile;  // shown by the preview in the place of the document; empty: the document
-  std::string HelpFile;  // of the application
+  std::string HelpFile;        // of the application
   std::string DialogResult;
   std::uint8_t DialogChoice = 0;
   std::string WizardFile;

@@ -23,6 +23,7 @@ void SetPageMeta(Program& program, std::string_view quote) {
   const std::string charset = Settings(program.MainIni).Text(Setting::CharSet);
   SetMeta(program, "Content-Type", Concat({"text/html;CHARSET=", quote, charset}));
   SetMeta(program, "Generator", GeneratorText);
+  if (program.passes.markCharset && program.ActiveDocument) program.passes.markCharset(*program.ActiveDocument);
 }
 
 void OpenFromTemplate(Program& program) {

@@ -111,7 +111,6 @@ void RegisterCore(Program& program) {
   program.forms.OnShow("AlwaysView", [&program] { ShowAlwaysView(program); });
   program.forms.OnShow("Browsers", [&program] { ShowBrowsers(program); });
   program.forms.OnShow("configuration", [&program] { ShowConfiguration(program); });
-  program.commands.OnToolbar("Toolbar20", "config", [&program] { ShowConfiguration(program); });
   program.forms.OnShow("Recovery", [&program] { ShowRecovery(program); });
   program.forms.OnShow("about", [&program] { ShowAbout(program); });
 }

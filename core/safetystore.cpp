@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdio>
+#include <map>
 #include <tuple>
 #include <utility>
 
@@ -65,7 +67,8 @@ std::optional<KeptText> ReadAbout(std::string_view name, std::string_view about)
     return std::nullopt;
   kept.kind = static_cast<KeptKind>(kind[0]);
   kept.moment = *moment;
-  kept.session = static_cast<std::uint64_t>(LeadingInteger(LineValue(about, "sesja")));
+  const std::string session = LineValue(about, "sesja");
+  std::from_chars(session.data(), session.data() + session.size(), kept.session);  // 0 where it is garbled
   return kept;
 }
 
@@ -129,21 +132,22 @@ void SafetyStore::Keep(KeptText kept, std::string bytes) {
 
 void SafetyStore::DeleteBeyondBounds() {
   std::vector<KeptText> beyond;
+  std::map<std::pair<KeptKind, std::string>, std::size_t> ofDocument;
   std::uint64_t bytes = 0;
-  for (std::size_t i = 0; i < kept_.size(); ++i) {
-    const KeptText& kept = kept_[i];
-    const auto newer =
-        static_cast<std::size_t>(std::count_if(kept_.begin(), kept_.begin() + static_cast<std::ptrdiff_t>(i), [&](const KeptText& other) {
-          return other.kind == kept.kind && EqualNoCase(other.path, kept.path);
-        }));
+  std::size_t texts = 0;
+  for (const KeptText& kept : kept_) {
+    const std::size_t newer = ofDocument[{kept.kind, LowerCase(kept.path)}]++;
     const bool tooMany =
         (kept.kind == KeptKind::Loaded && newer >= 1) || (kept.kind == KeptKind::Replaced && newer >= kReplacedPerDocument);
-    bytes += kept.size;
     // The newest stays, however large, and so does what nobody has saved.
-    const bool tooLarge = bytes > kMostBytes && i > 0 && !(kept.kind == KeptKind::Unsaved && kept.session == sessions_.own);
-    if (!tooMany && !tooLarge) continue;
-    beyond.push_back(kept);
-    bytes -= kept.size;
+    const bool mayGo = texts > 0 && !(kept.kind == KeptKind::Unsaved && kept.session == sessions_.own);
+    const bool tooLarge = mayGo && (texts >= kMostTexts || bytes + kept.size > kMostBytes);
+    if (tooMany || tooLarge) {
+      beyond.push_back(kept);
+    } else {
+      bytes += kept.size;
+      ++texts;
+    }
   }
   for (const KeptText& kept : beyond) Delete(kept);
 }

@@ -2,7 +2,7 @@
 // yet. Each kept text is two files of the store's directory: NAME.tekst with its bytes, and NAME.opis with a line each (CR LF):
 //   rodzaj=U            L as loaded, R replaced by a save, U unsaved
 //   chwila=20261121071000   year to second, local time
-//   sesja=1234          the program that kept it, by its process number
+//   sesja=1234          the run of the program that kept it, by a number that no other run has
 //   plik=c:\strona.html     the document's name
 // An unsaved text goes when its document is saved or closed, so that one that is left by a program which no longer runs tells of
 // an end that nobody wanted.
@@ -34,7 +34,7 @@ struct KeptText {
   std::uint64_t session = 0, size = 0;  // size in bytes
 };
 
-// The running programs, by number.
+// The runs of the program, by number.
 struct Sessions {
   std::uint64_t own = 0;
   std::function<bool(std::uint64_t number)> isRunning;
@@ -42,7 +42,7 @@ struct Sessions {
 
 class SafetyStore {
  public:
-  static constexpr std::size_t kReplacedPerDocument = 10;
+  static constexpr std::size_t kReplacedPerDocument = 10, kMostTexts = 1000;
   static constexpr std::uint64_t kMostBytes = 256u << 20;  // of all together; the oldest goes first
 
   // The directory stands already, in the program's form without a trailing "\".

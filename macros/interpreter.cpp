@@ -20,10 +20,10 @@ constexpr std::string_view kForTitle = "Błąd makro! {FOR}"_pl;
 constexpr std::string_view kInsertTitle = "Błąd makro! {INSERT}"_pl;
 constexpr std::string_view kStartTitle = "Błąd makro!! {RunApplication}"_pl;
 
-// Where a command that is missing counts as standing.
+// Where a branch that is missing counts as standing.
 constexpr std::size_t kMissing = 99999;
 
-// What a run may gather; a loop without an end would fill the memory.
+// What a run may gather; a loop without an end would fill the memory. One command can no more than double it.
 constexpr std::size_t kMostText = 256u << 20;
 
 }  // namespace
@@ -113,6 +113,7 @@ void MacroInterpreter::Scan() {
     RunCommand(command);
     Append(TrimLineEnds(command.result));
     read = command.end + 1;
+    if (GatheredText() > kMostText) state_.MacroFatal = true;
     if (state_.MacroFatal)
       return ShowMessage("Podczas wykomywania makrodefinicji występił błąd krytyczny. Makro przerwane"_pl, "Błąd krytyczny makro!"_pl);
     if (stopped_ || StopIsAsked()) return;
@@ -121,9 +122,14 @@ void MacroInterpreter::Scan() {
 }
 
 bool MacroInterpreter::StopIsAsked() {
-  if (before_.size() + after_.size() + instead_.size() > kMostText) state_.MacroFatal = true;
-  stopped_ = state_.MacroFatal || program_.platform.windows.YieldToEscape();
+  stopped_ = program_.platform.windows.YieldToEscape();
   return stopped_;
+}
+
+std::size_t MacroInterpreter::GatheredText() const {
+  std::size_t size = before_.size() + after_.size() + instead_.size();
+  for (const MacroVariable& variable : state_.MacroVariables) size += variable.value.size();
+  return size;
 }
 
 void MacroInterpreter::RunCommand(Command& command) {
@@ -187,8 +193,8 @@ std::string MacroInterpreter::ParamOr(const Command& command, std::string_view p
   return value.empty() ? std::string(whenEmpty) : value;
 }
 
-void MacroInterpreter::ShowMessage(std::string_view text, std::string_view title) {
-  program_.platform.windows.Message({.text = std::string(text), .title = std::string(title), .icon = Icon::Stop});
+void MacroInterpreter::ShowMessage(std::string_view text, std::string_view title, Icon icon) {
+  program_.platform.windows.Message({.text = std::string(text), .title = std::string(title), .icon = icon});
 }
 
 void MacroInterpreter::Fail(std::string_view text, std::string_view title) {
@@ -262,7 +268,7 @@ std::string MacroInterpreter::InsertedFile(const Command& command) {
   constexpr std::string_view kTitle = "Błąd Makro! {INSERT}"_pl;
   std::string charset = GetMacroParam(command, "charset");
   if (charset.empty()) {
-    ShowMessage("Nie zdefiniowany parametr CHARSET", "Ostrzeżenie Makro! {INSERT}"_pl);
+    ShowMessage("Nie zdefiniowany parametr CHARSET", "Ostrzeżenie Makro! {INSERT}"_pl, Icon::Warning);
     charset = kMacroCharset;
   }
   const std::string fileName = GetMacroParam(command, "filename");
@@ -319,9 +325,11 @@ void MacroInterpreter::StartApplication(Command& command) {
 
 // --- conditions and loops
 
-std::size_t MacroInterpreter::NextCommand(std::string_view command, std::size_t from) const {
-  const std::size_t place = Find(lowText_, command, from);
-  return place ? place : kMissing;
+std::size_t MacroInterpreter::NextBranch(std::size_t from) const {
+  const std::size_t end = Find(lowText_, "{endif}", from);
+  // Behind the end there is no need to look, which spares a long macro.
+  const std::size_t other = Find(std::string_view(lowText_).substr(0, end ? end : lowText_.size()), "{else}", from);
+  return std::min(end ? end : kMissing, other ? other : kMissing);
 }
 
 void MacroInterpreter::If(Command& command) {
@@ -331,12 +339,14 @@ void MacroInterpreter::If(Command& command) {
     return Fail(Concat({"Brak pamięci dla warunków! ["_pl, NumberText(std::int64_t{MacroState::kConditions + 1}), "]"}), kErrorTitle);
   const bool holds = ComparisonHolds(first, second, method);
   state_.MacroConditions[state_.MacroConditionCount++] = holds;
-  if (!holds) command.end = std::min(NextCommand("{else}", command.end), NextCommand("{endif}", command.end)) - 1;
+  if (!holds) command.end = NextBranch(command.end) - 1;
 }
 
 void MacroInterpreter::Else(Command& command) {
   const bool held = state_.MacroConditionCount > 0 && state_.MacroConditions[state_.MacroConditionCount - 1];
-  if (held) command.end = NextCommand("{endif}", command.end) - 1;
+  if (!held) return;
+  const std::size_t end = Find(lowText_, "{endif}", command.end);
+  command.end = end ? end - 1 : text_.size() + 1;
 }
 
 void MacroInterpreter::EndIf(Command&) {

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "macros/macrostate.h"
+#include "platform/windows.h"
 
 namespace morlan {
 
@@ -44,14 +45,16 @@ class MacroInterpreter {
   void Insert(const TEditor* document);
   std::string& TextOf(Section section);
   bool StopIsAsked();
+  std::size_t GatheredText() const;
 
   // A parameter with its variable looked up; a missing variable is fatal.
   std::string GetMacroParam(const Command& command, std::string_view paramName);
   std::string ParamOr(const Command& command, std::string_view paramName, std::string_view whenEmpty);
   std::string LookUp(std::string_view name);
-  void ShowMessage(std::string_view text, std::string_view title);
+  void ShowMessage(std::string_view text, std::string_view title, Icon icon = Icon::Stop);
   void Fail(std::string_view text, std::string_view title);  // a message, and the run ends
-  std::size_t NextCommand(std::string_view command, std::size_t from) const;
+  // Position of the {else} or {endif} that comes next.
+  std::size_t NextBranch(std::size_t from) const;
 
   template <Section kSection>
   void OpenSection(Command& command);

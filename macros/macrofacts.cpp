@@ -69,7 +69,7 @@ bool ComparisonHolds(std::string_view first, std::string_view second, std::strin
   static constexpr MethodRow kMethods[] = {
       {"equ", false, true, false}, {"equal", false, true, false}, {"=", false, true, false}, {"bigger", false, false, true},
       {">", false, false, true},   {"lower", true, false, false}, {"<", true, false, false}, {"<=", true, true, false},
-      {">=", false, true, true},   {"=>", false, true, true},
+      {"=<", true, true, false},   {">=", false, true, true},     {"=>", false, true, true},
   };
   const auto row = std::find_if(std::begin(kMethods), std::end(kMethods), [&](const MethodRow& each) { return each.name == method; });
   if (row == std::end(kMethods)) return false;

@@ -1,6 +1,7 @@
 #include "macros/macroparam.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/document.h"
 #include "core/documents.h"
@@ -14,6 +15,13 @@ namespace {
 
 void ShowNotice(Program& program, std::string_view text) {
   program.platform.windows.Message({.text = std::string(text), .title = "Morlan7 Makro", .icon = Icon::Information});
+}
+
+// The changes of the old text cannot be taken back any more.
+void ShowNewText(Program& program, TEditor& document, std::string text) {
+  document.EditedText.SetText(std::move(text));
+  document.UNDO.Clear();
+  if (document.EditedText.UseColorise && program.passes.colourDocument) program.passes.colourDocument(document.EditedText);
 }
 
 }  // namespace
@@ -76,7 +84,7 @@ bool MacroParam::Save() {
     ShowError(program_, "Nie mogę zapisać makra."_pl);
     return false;
   }
-  if (TEditor* open = FindDocument(program_, path)) open->EditedText.SetText(changed);
+  if (TEditor* open = FindDocument(program_, path)) ShowNewText(program_, *open, changed);
   return true;
 }
 

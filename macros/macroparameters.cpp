@@ -30,7 +30,8 @@ void AddQuestion(std::vector<MacroParameter>& parameters, std::string_view text,
   constexpr std::string_view kValue = "value=\"";
   const std::size_t place = FindNoCase(command, kValue);
   const std::string prompt = RawMacroParam(command, "prompt");
-  if (!place || prompt.empty()) return;
+  // A prompt that holds the word takes the value's place when the macro is run.
+  if (!place || FindNoCase(command, "value") != place || prompt.empty()) return;
   const std::string value = RawMacroParam(command, "value");
   const auto offset = static_cast<std::size_t>(command.data() - text.data()) + place - 1 + kValue.size();
   if (!value.starts_with("%%")) parameters.push_back({prompt, value, offset, value.size()});

@@ -31,7 +31,7 @@ void ShortTagWizard::Form_Load() {
 }
 
 void ShortTagWizard::Refuse(Control& field, std::string_view message) {
-  program_.platform.windows.Message({.text = std::string(message), .title = "Makro", .icon = Icon::Warning});
+  program_.platform.windows.Message({.text = std::string(message), .title = "Morlan7 Makro", .icon = Icon::Warning});
   field.SetFocus();
 }
 

@@ -27,7 +27,7 @@ void RunSelected(Program& program) {
 }
 
 void Refuse(Program& program, std::string_view message) {
-  program.platform.windows.Message({.text = std::string(message), .title = "Makro", .icon = Icon::Warning});
+  program.platform.windows.Message({.text = std::string(message), .title = "Morlan7 Makro", .icon = Icon::Warning});
 }
 
 void NewMacro(Program& program) {

@@ -20,16 +20,12 @@ std::string AnchorText(const AnchorValues& values) {
 }
 
 anchor::anchor(Program& program) : Form("anchor", "Odnośniki"_pl) {
-  for (const std::string_view target : {"_blank", "_parent", "_self", "_top"}) parm.AddItem(target);
-  SetUpButtons(program, *this, Command2, Command1);
+  FillTargets(parm);
+  SetUpFieldButtons(*this, Command2, Command1, href);
   SetUpFileButton(program, hrefFile, href, kPageFiles);
   OnLoad = [this, &program] { RefillFromList(program, href, kAddresses); };
   Command2.OnClick = [this, &program] {
     RememberInList(program, href, kAddresses);
-    Hide();
-  };
-  Command1.OnClick = [this] {
-    href.SetText("");
     Hide();
   };
   href.SetToolTip("Adres, do którego prowadzi odnośnik"_pl);

@@ -11,9 +11,11 @@ namespace morlan {
 
 class Program;
 
+// The texts of the fields.
 struct AnchorValues {
   std::string href{}, etykieta{}, parm{};
 };
+// The opening tag, without the attributes whose texts are empty.
 std::string AnchorText(const AnchorValues& values);
 
 // An empty HREF counts as cancelled, also for a tag that has only a NAME. The list of addresses remembers what was confirmed.
@@ -29,6 +31,7 @@ struct anchor : Form {
   AnchorValues Values() const;
 };
 
+// Writes the tag under the caret anew, and puts a new pair of tags round the selection.
 void EditAnchor(Program& program);
 void InsertAnchor(Program& program);
 

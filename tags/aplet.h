@@ -5,6 +5,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct ApletValues {
   std::string code{}, codebase{}, name{}, title{}, align{}, width{}, height{};
 };

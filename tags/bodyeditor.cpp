@@ -1,7 +1,7 @@
 #include "tags/bodyeditor.h"
 
 #include "core/defs.h"
-#include "core/document.h"
+#include "core/editsurface.h"
 #include "core/text.h"
 #include "tags/colours.h"
 #include "tags/insertcommands.h"

@@ -12,17 +12,20 @@ namespace morlan {
 
 class Program;
 
+// What the tag says of the page.
 struct BodyValues {
   std::string background;
   bool watermark = false;
   std::optional<Colour> bgColor, textColor, linksColor, visitedLinks, activeLinks;  // nothing leaves it to the browser
 };
+// The opening tag, with what is set alone.
 std::string BodyText(const BodyValues& values);
 
 // The first BODY tag of a text, from its "<" up to but not including its ">"; empty when there is none. Only capitals
 // are seen: "<body>" is none.
 std::string_view FindBodyTag(std::string_view text);
 
+// Fills its fields from the document each time that it is shown, as far as that has the tag.
 struct BodyTag : Form {
   TextBox background{*this, "background"};
   Button backgroundFile{*this, "backgroundFile", "..."};

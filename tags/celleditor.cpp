@@ -4,7 +4,6 @@
 #include "core/status.h"
 #include "core/text.h"
 #include "tags/alignlabels.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -18,7 +17,7 @@ constexpr ReadWord kValignRows[] = {{"top", 1}, {"middle", 2}, {"bottom", 0}, {"
 void Insert(Program& program, CellKind kind) {
   DTH& form = program.forms.Get<DTH>();
   form.SetKind(kind);
-  ShowForNew(program, form);
+  form.Insert();
 }
 
 }  // namespace
@@ -34,19 +33,15 @@ std::string CellText(CellKind kind, const CellValues& values) {
   return tag.Close();
 }
 
-DTH::DTH(Program& program) : Form("DTH", "Komórka tabeli"_pl), program_(program) {
+DTH::DTH(Program& program) : TagDialog(program, "DTH", "Komórka tabeli"_pl, kTableStatus) {
   // In the order of CellAlign and CellVAlign.
   FillChoices(align, {"Centrowany", "Do lewego marg.", "Prawego marg."});
   FillChoices(valign, {"Na dole", "Na górze"_pl, "Na środku"_pl, "Podstawa tekstu"});
   for (ComboBox* size : {&szer, &wys})
     for (const std::string_view text : {"10%", "20%", "25%", "33%", "50%", "75%", "100%"}) size->AddItem(text);
-  SetUpButtons(program, *this, Command2, Command1);
+  SetUp(Command2, Command1);
   SetUpFileButton(program, tloFile, tlo, kPictureFiles);
   SetUpColourBox(program, fillwithcolor2, isbackcolor2);
-  Command2.OnClick = [this] {
-    Hide();
-    if (!EditsExisting(program_)) InsertPair(program_, Text(), kind_ == CellKind::Header ? "</TH>" : "</TD>");
-  };
   szer.WidthInCharacters = wys.WidthInCharacters = 8;
   rowspawn.WidthInCharacters = colspawn.WidthInCharacters = 8;
   align.WidthInCharacters = valign.WidthInCharacters = 18;
@@ -77,6 +72,7 @@ void DTH::SetKind(CellKind kind) {
 }
 
 void DTH::Read(std::string_view tag) {
+  SetKind(EqualNoCase(GetTagName(tag), "TH") ? CellKind::Header : CellKind::Cell);
   tlo.SetText(GetTagTextParam(tag, "BACKGROUND"));
   szer.SetText(GetTagParam(tag, "WIDTH"));
   wys.SetText(GetTagParam(tag, "HEIGHT"));
@@ -100,17 +96,7 @@ CellValues DTH::Values() const {
           .colspawn = colspawn.Text()};
 }
 
-std::string DTH::Text() const {
-  return TextWithStatus(program_, kTableStatus, [this] { return CellText(kind_, Values()); });
-}
-
-void EditCell(Program& program) {
-  DTH& form = program.forms.Get<DTH>();
-  form.SetKind(EqualNoCase(GetTagName(program.tagState.CurrentTagText), "TH") ? CellKind::Header : CellKind::Cell);
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
+void EditCell(Program& program) { program.forms.Get<DTH>().Edit(); }
 void InsertHeaderCell(Program& program) { Insert(program, CellKind::Header); }
 void InsertCell(Program& program) { Insert(program, CellKind::Cell); }
 

@@ -5,15 +5,14 @@
 #include <string>
 #include <string_view>
 
-#include "platform/encoding.h"
-#include "platform/forms/controls.h"
+#include "tags/tagdialog.h"
 
 namespace morlan {
 
-class Program;
-
+// TD and TH.
 enum class CellKind { Cell, Header };
 
+// The fields as they go into the document.
 struct CellValues {
   int align = -1, valign = -1;  // rows of CellAlign and CellVAlign
   std::string tlo{};
@@ -24,7 +23,8 @@ struct CellValues {
 // ROWSPAWN, COLSPAWN and NOWARP are spelt like this in the document.
 std::string CellText(CellKind kind, const CellValues& values);
 
-struct DTH : Form {
+// One dialog for both kinds of cells; its caption tells which.
+struct DTH : TagDialog {
   TextBox tlo{*this, "tlo"};
   Button tloFile{*this, "tloFile", "..."};
   ComboBox szer{*this, "szer"}, wys{*this, "wys"};
@@ -37,16 +37,17 @@ struct DTH : Form {
 
   explicit DTH(Program& program);
   void SetKind(CellKind kind);
-  void Read(std::string_view tag);
+  void Read(std::string_view tag) override;
   CellValues Values() const;
-  std::string Text() const;  // the tag, with a word in the status line while it is made
+  std::string Text() const override { return CellText(kind_, Values()); }
+  std::string_view Closing() const override { return kind_ == CellKind::Header ? "</TH>" : "</TD>"; }
 
  private:
   void SetUpToolTips();
-  Program& program_;
   CellKind kind_ = CellKind::Cell;
 };
 
+// Writes the tag under the caret anew, and puts a new pair of tags round the selection.
 void EditCell(Program& program);
 void InsertHeaderCell(Program& program);
 void InsertCell(Program& program);

@@ -5,6 +5,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct CfColValues {
   std::string header{}, text{}, align{}, width{};
 };

@@ -15,6 +15,7 @@ struct CfFileAction {
 // All attributes are unknown to an action that the language lacks. Letter case does not count.
 const CfFileAction& CfFileActionOf(std::string_view action);
 
+// The fields as they go into the document.
 struct CfFileValues {
   std::string action{}, source{}, destination{}, output{}, file{}, variable{}, filefield{}, nameconflict{};
 };

@@ -5,6 +5,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct CfMailValues {
   std::string to{}, cc{}, from{}, query{}, subject{};
 };

@@ -5,6 +5,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct CfQueryValues {
   std::string dataSource{}, name{};
 };

@@ -5,6 +5,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct CfTableValues {
   std::string query{}, spacing{}, headerLines{}, maxRows{};
   bool columnHeaders = false, htmlTable = false;

@@ -8,11 +8,9 @@
 
 namespace morlan {
 
-std::string ChannelText(const ChannelValues& values) {
-  TagText tag("<CHANNEL");
-  tag.QuotedIfText(" BASE=", values.base).QuotedIfText(" HREF=", values.href);
-  if (LeadingNumber(values.level) != 0) tag.Quoted(" Level=", values.level);
-  return tag.Close();
+std::string ChannelAttributes(const ChannelValues& values) {
+  const std::string level = LeadingNumber(values.level) != 0 ? AddAttribute(values.level, "Level") : std::string();
+  return AddAttribute(values.base, "BASE") + AddAttribute(values.href, "HREF") + level;
 }
 
 Channel_Channel::Channel_Channel(Program& program) : ServerDialog(program, "Channel_Channel", "Kanał"_pl) {
@@ -33,13 +31,12 @@ void Channel_Channel::Read(std::string_view tag) {
   Level.SetText(GetTagParam(tag, "LEVEL"));
 }
 
-std::string Channel_Channel::Result() const { return ChannelText({.base = Base.Text(), .href = HREF.Text(), .level = Level.Text()}); }
+std::string Channel_Channel::Result() const { return Concat({"<CHANNEL", ChannelAttributes(Values()), ">"}); }
 
 void EditChannel(Program& program) {
   Channel_Channel& form = program.forms.Get<Channel_Channel>();
   form.Read(program.tagState.CurrentTagText);
-  const std::string tag = form.Ask();
-  if (!tag.empty()) RewriteTag(program, tag);
+  if (!form.Ask().empty()) RewriteTag(program, Concat({"<CHANNEL ", ChannelAttributes(form.Values()), ">"}));
 }
 
 void InsertChannel(Program& program) {

@@ -9,11 +9,12 @@
 
 namespace morlan {
 
+// The texts of the fields.
 struct ChannelValues {
   std::string base, href, level;
 };
-// Empty attributes are left out, and a level whose number is 0.
-std::string ChannelText(const ChannelValues& values);
+// The attributes alone, each with a blank in front. Empty ones are left out, and a level whose number is 0.
+std::string ChannelAttributes(const ChannelValues& values);
 
 struct Channel_Channel : ServerDialog {
   TextBox Base{*this, "Base"}, HREF{*this, "HREF"};
@@ -23,10 +24,13 @@ struct Channel_Channel : ServerDialog {
 
   explicit Channel_Channel(Program& program);
   void Read(std::string_view tag);
-  std::string Result() const override;  // the tag
+  ChannelValues Values() const { return {.base = Base.Text(), .href = HREF.Text(), .level = Level.Text()}; }
+  std::string Result() const override;  // a new tag, since a channel may have no attributes at all
 };
 
+// A tag that is written anew has a second blank in front of its attributes.
 void EditChannel(Program& program);
+// Puts a new pair of tags round the selection, the end in a line of its own.
 void InsertChannel(Program& program);
 
 }  // namespace morlan

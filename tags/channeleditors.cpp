@@ -26,26 +26,41 @@ struct Question {
 
 constexpr Question Date(std::string_view info) { return {"", info, "", true}; }
 
+// clang-format off
+constexpr Question kAuthor = {"Autor", "Autor:", "Listy\\CHAuthor.lst"};
+constexpr Question kPublisher = {"Wydawca", "Wydawca:", "Listy\\CHPub.lst"};
+constexpr Question kCopyright = {"Prawa autorskie", "Prawa autorskie:", "Listy\\CHCopyR.lst"};
+// The keywords of a tag that stands there are asked for without the colon.
+constexpr Question kKeywords = {"Słowa kluczowe"_pl, "Słowa kluczowe (rozdzielaj je przecinkiem):"_pl, "Listy\\CHKey.lst"};
+constexpr Question kOldKeywords = {"Słowa kluczowe"_pl, "Słowa kluczowe (rozdzielaj je przecinkiem)"_pl, "Listy\\CHKey.lst"};
+constexpr Question kIntro = {"Strona wprowadzająca w temat kanału"_pl, "Adres URL:", "Listy\\CHCopyR.lst"};
+constexpr Question kMinStorage = {"Ilość potrzebnego miejsca"_pl, "Ilość w KB"_pl, ""};
+constexpr Question kCategory = {"Kategoria", "Kategoria:", "Listy\\CHCat.lst"};
+constexpr Question kDescription = {"Kategoria", "Opis kategorii:", ""};
+constexpr Question kLink = {"Połączenie"_pl, "Adres URL:", "Listy\\HREF.lst"};
+constexpr Question kLastMod = Date("Data ostatniej modyfikacji:");
+constexpr Question kPublication = Date("Data publikacji:");
+constexpr Question kEndDate = Date("Do kiedy obowiązuje uaktualnianie kanału:"_pl);
+
 // A tag with the one attribute VALUE.
 struct ValueEditorRow {
   std::string_view editor, tag;
   Question question;
 };
 
-// clang-format off
 constexpr ValueEditorRow kValueEditors[] = {
-    {"EditLastMod",         "LASTMOD",         Date("Data ostatniej modyfikacji:")},
+    {"EditLastMod",         "LASTMOD",         kLastMod},
     {"EditStartDate",       "STARTDATE",       Date("Od kiedy obowiązuje uaktualnianie kanału:"_pl)},
-    {"EditEndDate",         "ENDDATE",         Date("Do kiedy obowiązuje uaktualnianie kanału:"_pl)},
-    {"EditPublicationDate", "PUBLICATIONDATE", Date("Data publikacji:")},
-    {"EditMinStorage",      "MINSTORAGE",      {"Ilość potrzebnego miejsca"_pl, "Ilość w KB"_pl, ""}},
-    {"EditIntroUrl",        "INTROURL",        {"Strona wprowadzająca w temat kanału"_pl, "Adres URL:", "Listy\\CHCopyR.lst"}},
-    {"EditCategoryName",    "CATEGORYNAME",    {"Kategoria", "Kategoria:", "Listy\\CHCat.lst"}},
-    {"EditDescription",     "DESCRIPTION",     {"Kategoria", "Opis kategorii:", ""}},
-    {"EditKeywords",        "KEYWORDS",        {"Słowa kluczowe"_pl, "Słowa kluczowe (rozdzielaj je przecinkiem)"_pl, "Listy\\CHKey.lst"}},
-    {"EditAuthor",          "AUTHOR",          {"Autor", "Autor:", "Listy\\CHAuthor.lst"}},
-    {"EditPublisher",       "PUBLISHER",       {"Wydawca", "Wydawca:", "Listy\\CHPub.lst"}},
-    {"EditCopyright",       "COPYRIGHT",       {"Prawa autorskie", "Prawa autorskie:", "Listy\\CHCopyR.lst"}},
+    {"EditEndDate",         "ENDDATE",         kEndDate},
+    {"EditPublicationDate", "PUBLICATIONDATE", kPublication},
+    {"EditMinStorage",      "MINSTORAGE",      kMinStorage},
+    {"EditIntroUrl",        "INTROURL",        kIntro},
+    {"EditCategoryName",    "CATEGORYNAME",    kCategory},
+    {"EditDescription",     "DESCRIPTION",     kDescription},
+    {"EditKeywords",        "KEYWORDS",        kOldKeywords},
+    {"EditAuthor",          "AUTHOR",          kAuthor},
+    {"EditPublisher",       "PUBLISHER",       kPublisher},
+    {"EditCopyright",       "COPYRIGHT",       kCopyright},
     {"EditChannelTitle",    "TITLE",           {"Edytuj tytuł kanału"_pl, "Tytuł kanału"_pl, "Listy\\CHTitle.lst"}},
     {"EditAbstract",        "ABSTRACT",        {"Edytuj opis kanału"_pl, "Opis kanału"_pl, ""}},
 };
@@ -64,32 +79,24 @@ struct ChannelPairRow {
   bool hasLines;  // the tags stand in lines of their own
 };
 constexpr ChannelPairRow kPairs[] = {
-    {"Toolbar15", "channel",     "CHANNEL",     true},
-    {"Toolbar15", "item",        "ITEM",        true},
-    {"Toolbar15", "schedule",    "SCHEDULE",    true},
-    {"Toolbar15", "categorydef", "CATEGORYDEF", true},
-    {"Toolbar15", "title",       "TITLE",       false},
-    {"Toolbar15", "abstract",    "ABSTRACT",    false},
-    {"Toolbar17", "item",        "ITEM",        true},
-    {"Toolbar17", "title",       "TITLE",       false},
-    {"Toolbar17", "abstract",    "ABSTRACT",    false},
-    {"Toolbar19", "category",    "CATEGORYDEF", true},
+    {"Toolbar15", "channel",      "CHANNEL",     true},
+    {"Toolbar15", "item",         "ITEM",        true},
+    {"Toolbar15", "schedule",     "SCHEDULE",    true},
+    {"Toolbar15", "categorydef",  "CATEGORYDEF", true},
+    {"Toolbar15", "title",        "TITLE",       false},
+    {"Toolbar15", "abstract",     "ABSTRACT",    false},
+    {"Toolbar17", "item",         "ITEM",        true},
+    {"Toolbar17", "title",        "TITLE",       false},
+    {"Toolbar17", "abstract",     "ABSTRACT",    false},
+    {"Toolbar19", "category",     "CATEGORYDEF", true},
+    {"Toolbar20", "config",       "CONFIG",      false},
+    {"Toolbar20", "dependencies", "DEPENDENCY",  false},
+    {"Toolbar20", "title",        "TITLE",       false},
+    {"Toolbar20", "abstract",     "ABSTRACT",    false},
 };
 
-constexpr Question kAuthor = {"Autor", "Autor:", "Listy\\CHAuthor.lst"};
-constexpr Question kPublisher = {"Wydawca", "Wydawca:", "Listy\\CHPub.lst"};
-constexpr Question kCopyright = {"Prawa autorskie", "Prawa autorskie:", "Listy\\CHCopyR.lst"};
-constexpr Question kKeywords = {"Słowa kluczowe"_pl, "Słowa kluczowe (rozdzielaj je przecinkiem):"_pl, "Listy\\CHKey.lst"};
-constexpr Question kIntro = {"Strona wprowadzająca w temat kanału"_pl, "Adres URL:", "Listy\\CHCopyR.lst"};
-constexpr Question kMinStorage = {"Ilość potrzebnego miejsca"_pl, "Ilość w KB"_pl, ""};
-constexpr Question kCategory = {"Kategoria", "Kategoria:", "Listy\\CHCat.lst"};
-constexpr Question kDescription = {"Kategoria", "Opis kategorii:", ""};
-constexpr Question kLink = {"Połączenie"_pl, "Adres URL:", "Listy\\HREF.lst"};
-constexpr Question kLastMod = Date("Data ostatniej modyfikacji:");
-constexpr Question kPublication = Date("Data publikacji:");
-
 // A value in quotes between the opening and its end. One with a closing tag goes round the selection, one without takes the
-// selection's place.
+// selection's place. The button of the start date writes the end date: it belongs so.
 struct ValueCommandRow {
   std::string_view toolbar, key, opening, end, close;
   const Question& question;
@@ -113,6 +120,7 @@ constexpr ValueCommandRow kValueCommands[] = {
     {"Toolbar17", "publicationdate", "<PUBLICATIONDATE VALUE=", "/>", "",     kPublication},
     {"Toolbar17", "category",        "<CATEGORY VALUE=",        "/>", "",     kCategory},
     {"Toolbar17", "anchor",          "<A HREF=",                ">",  "</A>", kLink},
+    {"Toolbar18", "startdate",       "<ENDDATE VALUE=",         "/>", "",     kEndDate},
     {"Toolbar19", "categoryname",    "<CATEGORYNAME VALUE=",    "/>", "",     kCategory},
     {"Toolbar19", "categorydesc",    "<DESCRIPTION VALUE=",     "/>", "",     kDescription},
 };

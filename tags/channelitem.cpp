@@ -8,10 +8,10 @@
 
 namespace morlan {
 
-std::string ItemText(const ItemValues& values) {
-  TagText tag("<ITEM");
-  tag.Quoted(" HREF=", values.href).Quoted(" LASTMOD=", values.modDate).Quoted(" PRECACHE=", values.preCache);
-  return tag.Quoted(" LEVEL=", values.level).Close();
+std::string ItemAttributes(const ItemValues& values) {
+  TagText text("");
+  text.Quoted(" HREF=", values.href).Quoted(" LASTMOD=", values.modDate).Quoted(" PRECACHE=", values.preCache);
+  return text.Quoted(" LEVEL=", values.level).Close("");
 }
 
 Channel_Item::Channel_Item(Program& program) : ServerDialog(program, "Channel_Item", "Element kanału"_pl) {
@@ -39,20 +39,20 @@ void Channel_Item::Read(std::string_view tag) {
   ModDate.SetText(GetTagTextParam(tag, "lastmod"));
 }
 
-std::string Channel_Item::Result() const {
-  return ItemText({.href = HREF.Text(), .modDate = ModDate.Text(), .preCache = PreCache.Text(), .level = Level.Text()});
+ItemValues Channel_Item::Values() const {
+  return {.href = HREF.Text(), .modDate = ModDate.Text(), .preCache = PreCache.Text(), .level = Level.Text()};
 }
 
 void EditItem(Program& program) {
   Channel_Item& form = program.forms.Get<Channel_Item>();
   form.Read(program.tagState.CurrentTagText);
-  const std::string tag = form.Ask();
-  if (!tag.empty()) RewriteTag(program, tag);
+  const std::string attributes = form.Ask();
+  if (!attributes.empty()) RewriteTag(program, Concat({"<ITEM ", attributes, ">"}));
 }
 
 void InsertItem(Program& program) {
-  const std::string tag = program.forms.Get<Channel_Item>().Ask();
-  if (!tag.empty()) InsertPair(program, tag, Concat({CrLf, "</ITEM>"}));
+  const std::string attributes = program.forms.Get<Channel_Item>().Ask();
+  if (!attributes.empty()) InsertPair(program, Concat({"<ITEM", attributes, ">"}), Concat({CrLf, "</ITEM>"}));
 }
 
 }  // namespace morlan

@@ -9,11 +9,12 @@
 
 namespace morlan {
 
+// The texts of the fields.
 struct ItemValues {
   std::string href, modDate, preCache, level;
 };
-// All four attributes are written, empty ones too.
-std::string ItemText(const ItemValues& values);
+// The attributes alone, each with a blank in front. All four are written, empty ones too.
+std::string ItemAttributes(const ItemValues& values);
 
 struct Channel_Item : ServerDialog {
   ComboBox HREF{*this, "HREF"};
@@ -26,10 +27,13 @@ struct Channel_Item : ServerDialog {
 
   explicit Channel_Item(Program& program);
   void Read(std::string_view tag);
-  std::string Result() const override;  // the tag
+  ItemValues Values() const;
+  std::string Result() const override { return ItemAttributes(Values()); }
 };
 
+// A tag that is written anew has a second blank in front of its attributes.
 void EditItem(Program& program);
+// Puts a new pair of tags round the selection, the end in a line of its own.
 void InsertItem(Program& program);
 
 }  // namespace morlan

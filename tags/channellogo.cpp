@@ -1,14 +1,21 @@
 #include "tags/channellogo.h"
 
 #include "core/defs.h"
+#include "core/text.h"
 #include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
 namespace morlan {
 
-std::string LogoText(const LogoValues& values) {
-  return TagText("<LOGO").Quoted(" HREF=", values.href).Quoted(" STYLE=", values.style).Close("/>");
+namespace {
+
+std::string LogoText(std::string_view attributes) { return Concat({"<LOGO ", attributes, "/>"}); }
+
+}  // namespace
+
+std::string LogoAttributes(const LogoValues& values) {
+  return TagText("").Quoted("HREF=", values.href).Quoted(" STYLE=", values.style).Close("");
 }
 
 Channel_Logo::Channel_Logo(Program& program) : ServerDialog(program, "Channel_Logo", "Edycja loga kanału"_pl) {
@@ -29,18 +36,16 @@ void Channel_Logo::Read(std::string_view tag) {
   ShowChoice(Typ, GetTagTextParam(tag, "style"));
 }
 
-std::string Channel_Logo::Result() const { return LogoText({.href = Items.Text(), .style = Typ.Text()}); }
-
 void EditLogo(Program& program) {
   Channel_Logo& form = program.forms.Get<Channel_Logo>();
   form.Read(program.tagState.CurrentTagText);
-  const std::string tag = form.Ask();
-  if (!tag.empty()) RewriteTag(program, tag);
+  const std::string attributes = form.Ask();
+  if (!attributes.empty()) RewriteTag(program, LogoText(attributes));
 }
 
 void InsertLogo(Program& program) {
-  const std::string tag = program.forms.Get<Channel_Logo>().Ask();
-  if (!tag.empty()) ReplaceSelection(program, tag);
+  const std::string attributes = program.forms.Get<Channel_Logo>().Ask();
+  if (!attributes.empty()) ReplaceSelection(program, LogoText(attributes));
 }
 
 }  // namespace morlan

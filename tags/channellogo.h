@@ -9,10 +9,12 @@
 
 namespace morlan {
 
+// The texts of the fields.
 struct LogoValues {
   std::string href, style;
 };
-std::string LogoText(const LogoValues& values);
+// The attributes alone. Both are written, empty ones too.
+std::string LogoAttributes(const LogoValues& values);
 
 struct Channel_Logo : ServerDialog {
   ComboBox Items{*this, "Items"};
@@ -22,9 +24,11 @@ struct Channel_Logo : ServerDialog {
 
   explicit Channel_Logo(Program& program);
   void Read(std::string_view tag);
-  std::string Result() const override;  // the tag
+  LogoValues Values() const { return {.href = Items.Text(), .style = Typ.Text()}; }
+  std::string Result() const override { return LogoAttributes(Values()); }
 };
 
+// Writes the tag under the caret anew, and puts a new one in the place of the selection.
 void EditLogo(Program& program);
 void InsertLogo(Program& program);
 

@@ -12,6 +12,7 @@ namespace morlan {
 
 class Program;
 
+// A local time.
 struct ChannelDate {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0;
 };

@@ -63,6 +63,11 @@ void ColourOptions::ShowSample(std::optional<Colour> colour) {
     sample_.Unset();
 }
 
+void ColourOptions::ShowSelected() {
+  const std::size_t selected = Selected();
+  ShowSample(selected == kUser ? std::optional(UserColour()) : kOptions[selected].sample);
+}
+
 void ColourOptions::Select(std::size_t index) { options_[index]->SetValue(true); }
 
 std::size_t ColourOptions::Selected() const {

@@ -27,12 +27,13 @@ class ColourOptions {
   void SelectValue(std::string_view value);
   // The word for the document, in upper case; nothing when there is no colour to write.
   std::optional<std::string> Word() const;
-  // The colour of the user's option as the digits of a number.
-  Colour UserColour() const;
+  // Shows the selected option's colour in the sample: the user's as the value of its digits, with no swap of red and blue.
+  void ShowSelected();
 
   Layout Page() const;
 
  private:
+  Colour UserColour() const;
   void ShowSample(std::optional<Colour> colour);
   void Select(std::size_t index);
   std::size_t Selected() const;

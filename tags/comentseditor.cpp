@@ -13,13 +13,8 @@ constexpr std::string_view kOpen = "<!--", kClose = "-->";
 
 }  // namespace
 
-coments::coments(Program& program) : Form("coments", "Komentarz") {
-  SetUpButtons(program, *this, Command2, Command1);
-  Command2.OnClick = [this] { Hide(); };
-  Command1.OnClick = [this] {
-    comenttext.SetText("");
-    Hide();
-  };
+coments::coments(Program&) : Form("coments", "Komentarz") {
+  SetUpFieldButtons(*this, Command2, Command1, comenttext);
   comenttext.WidthInCharacters = 48;
   comenttext.SetToolTip("Tekst, którego przeglądarka nie pokaże"_pl);
   layout = layout::Rows(layout::Field("&Tekst", comenttext), layout::ButtonRow(Command2, Command1));

@@ -11,6 +11,7 @@ namespace morlan {
 
 class Program;
 
+// An empty text counts as cancelled.
 struct coments : Form {
   TextBox comenttext{*this, "comenttext"};
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};

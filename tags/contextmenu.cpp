@@ -133,7 +133,8 @@ class ContextMenu {
   void ShowTagEntries(Menu& menu, const TagOffer& offer, std::string_view caption) {
     menu.SetVisible(kNameEntry, true);
     menu.SetEnabled(kNameEntry, false);  // it only names the tag
-    menu.SetVisible(kEditEntry, HasTagEditor(program_, caption));
+    menu.SetVisible(kEditEntry, true);
+    menu.SetEnabled(kEditEntry, HasTagEditor(program_, caption));  // DESCRIPTION and CATEGORY have none
     for (const OfferedAction& offered : offer.actions) {
       if (shown_.size() == kActionEntries.size() || !program_.tagState.targetActions.contains(offered.action)) continue;
       menu.SetCaption(kActionEntries[shown_.size()], offered.caption);

@@ -16,17 +16,13 @@ constexpr std::string_view kAddresses = "Listy\\EMAIL.lst";
 std::string EmailText(std::string_view address) { return TagText("<A").Quoted(" HREF=", Concat({"mailto:", address})).Close(); }
 
 email::email(Program& program) : Form("email", "Adres E-Mail") {
-  SetUpButtons(program, *this, Command2, Command1);
+  SetUpFieldButtons(*this, Command2, Command1, emailtext);
   OnLoad = [this, &program] {
     emailtext.Clear();
     LoadComboFromList(program, emailtext, kAddresses);
   };
   Command2.OnClick = [this, &program] {
     RememberInList(program, emailtext, kAddresses);
-    Hide();
-  };
-  Command1.OnClick = [this] {
-    emailtext.SetText("");
     Hide();
   };
   emailtext.WidthInCharacters = 36;

@@ -11,8 +11,10 @@ namespace morlan {
 
 class Program;
 
+// The opening tag of a link to the address.
 std::string EmailText(std::string_view address);
 
+// The list of addresses remembers what was confirmed. An empty address counts as cancelled.
 struct email : Form {
   ComboBox emailtext{*this, "emailtext"};
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};

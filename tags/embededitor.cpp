@@ -35,14 +35,9 @@ std::string EmbedText(const EmbedValues& values) {
 }
 
 embed::embed(Program& program) : Form("embed", "Embed") {
-  FillChoices(wyrownanie, {"TOP", "MIDDLE", "BOTTOM", "RIGHT", "LEFT", "TEXTOP"});
-  SetUpButtons(program, *this, Command2, Command1);
+  FillPictureAlignments(wyrownanie);
+  SetUpFieldButtons(*this, Command2, Command1, source);
   SetUpFileButton(program, sourceFile, source, kSoundFiles);
-  Command2.OnClick = [this] { Hide(); };
-  Command1.OnClick = [this] {
-    source.SetText("");
-    Hide();
-  };
   source.OnChange = [this] { ShowMidiBoxes(); };
   OnLoad = [this] { ShowMidiBoxes(); };
   source.SetToolTip("Plik, który przeglądarka odtworzy albo pokaże na stronie"_pl);

@@ -11,6 +11,7 @@ namespace morlan {
 
 class Program;
 
+// The fields as they go into the document.
 struct EmbedValues {
   std::string source{}, szerokosc{}, wysokosc{}, ramka{};
   std::string wyrownanie{};  // the word for the document; empty for none
@@ -19,6 +20,7 @@ struct EmbedValues {
 // Only a file of the type "mid" has its two switches written. A line end follows the tag.
 std::string EmbedText(const EmbedValues& values);
 
+// An empty source counts as cancelled. The two switches are shown while the source ends in "mid".
 struct embed : Form {
   TextBox source{*this, "source"};
   Button sourceFile{*this, "sourceFile", "..."};
@@ -35,6 +37,7 @@ struct embed : Form {
   void ShowMidiBoxes();
 };
 
+// Writes the tag under the caret anew, and inserts a new one.
 void EditEmbed(Program& program);
 void InsertEmbed(Program& program);
 

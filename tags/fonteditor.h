@@ -10,6 +10,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct FontValues {
   std::string znak{}, rozmiar{};  // the sign and the number behind it
   std::string czcionka{};
@@ -18,6 +19,7 @@ struct FontValues {
 // `name` is "BASEFONT" or "FONT".
 std::string FontText(std::string_view name, const FontValues& values);
 
+// One dialog for both tags; its caption tells which.
 struct Fonty : Form {
   TextBox Rozmiar{*this, "Rozmiar"};
   ComboBox Znak{*this, "Znak", ComboBox::Style::ListOnly};
@@ -31,8 +33,10 @@ struct Fonty : Form {
   FontValues Values() const;
 };
 
+// Write the tag under the caret anew; a tag that is edited keeps the end that it has.
 void EditBaseFont(Program& program);
 void EditFont(Program& program);
+// Insert a new tag; a quick font has an end behind the selection.
 void InsertBaseFont(Program& program);
 void InsertQuickFont(Program& program);
 

@@ -2,7 +2,6 @@
 
 #include "core/defs.h"
 #include "core/status.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -21,16 +20,15 @@ std::string FormText(const FormValues& values) {
   return tag.QuotedIfText(" TARGET=", values.target).QuotedIfText(" ENCTYPE=", values.enctype).Close();
 }
 
-FormShape::FormShape(Program& program) : Form("FormShape", "Zarys formularza"), program_(program) {
+FormShape::FormShape(Program& program) : TagDialog(program, "FormShape", "Zarys formularza", kFormStatus) {
   for (const std::string_view word : {"GET", "POST"}) method.AddItem(word);
   method.SetListIndex(kDefaultMethod);
-  for (const std::string_view window : {"_blank", "_parent", "_self", "_top"}) target.AddItem(window);
-  SetUpButtons(program, *this, Command2, Command1);
+  FillTargets(target);
+  SetUp(Command2, Command1);
   OnLoad = [this] {
     RefillFromList(program_, action, kActions);
     RefillFromList(program_, enctype, kEncodings);
   };
-  Command2.OnClick = [this] { Confirm(); };
   SetUpToolTips();
   action.WidthInCharacters = enctype.WidthInCharacters = 36;
   method.WidthInCharacters = 8;
@@ -45,11 +43,9 @@ void FormShape::SetUpToolTips() {
   enctype.SetToolTip("Postać, w jakiej dane jadą do serwera; pliki wymagają multipart/form-data"_pl);
 }
 
-void FormShape::Confirm() {
+void FormShape::Remember() {
   RememberInList(program_, action, kActions);
   RememberInList(program_, enctype, kEncodings);
-  Hide();
-  if (!EditsExisting(program_)) InsertPair(program_, Text(), "</FORM>");
 }
 
 void FormShape::Read(std::string_view tag) {
@@ -64,16 +60,8 @@ FormValues FormShape::Values() const {
   return {.action = action.Text(), .method = method.Text(), .target = target.Text(), .enctype = enctype.Text()};
 }
 
-std::string FormShape::Text() const {
-  return TextWithStatus(program_, kFormStatus, [this] { return FormText(Values()); });
-}
+void EditForm(Program& program) { program.forms.Get<FormShape>().Edit(); }
 
-void EditForm(Program& program) {
-  FormShape& form = program.forms.Get<FormShape>();
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
-void InsertForm(Program& program) { ShowForNew(program, program.forms.Get<FormShape>()); }
+void InsertForm(Program& program) { program.forms.Get<FormShape>().Insert(); }
 
 }  // namespace morlan

@@ -17,12 +17,14 @@ class Program;
 enum class FormElement { Text, Password, TextArea, Check, Radio, Submit, Reset, Hidden, Image, File, List };
 inline constexpr std::size_t kFormElementCount = 11;
 
+// The fields as they go into the document.
 struct FormElementValues {
   std::string name{}, value{}, size{}, maxlength{}, rows{}, cols{}, src{};
   std::string align{};  // a word
   bool checked = false;
 };
 
+// What goes in front of the selection and behind it.
 struct FormElementText {
   std::string open, close;
 };
@@ -55,6 +57,7 @@ struct FormElements : Form {
   Program& program_;
 };
 
+// Shows the dialog with that kind chosen; its OK button inserts the element.
 void InsertFormElement(Program& program, FormElement element);
 
 }  // namespace morlan

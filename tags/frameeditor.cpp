@@ -3,7 +3,6 @@
 #include "core/defs.h"
 #include "core/status.h"
 #include "core/text.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -18,14 +17,10 @@ std::string FrameText(const FrameValues& values) {
   return tag.Close();
 }
 
-FrameTag::FrameTag(Program& program) : Form("Frame", "Ramka"), program_(program) {
+FrameTag::FrameTag(Program& program) : TagDialog(program, "Frame", "Ramka", kFrameStatus) {
   FillChoices(scrolling, {"Automatyczne", "Tak", "Nie"});
-  SetUpButtons(program, *this, Command2, Command1);
+  SetUp(Command2, Command1);
   SetUpFileButton(program, srcFile, src, kPageFiles);
-  Command2.OnClick = [this] {
-    Hide();
-    if (!EditsExisting(program_)) InsertPair(program_, Text(), "");
-  };
   SetUpToolTips();
   for (TextBox* box : {&marginwidth, &marginheight, &spacing_}) box->WidthInCharacters = 8;
   scrolling.WidthInCharacters = 16;
@@ -69,16 +64,8 @@ FrameValues FrameTag::Values() const {
           .scrolling = scrolling.ListIndex()};
 }
 
-std::string FrameTag::Text() const {
-  return TextWithStatus(program_, kFrameStatus, [this] { return FrameText(Values()); });
-}
+void EditFrame(Program& program) { program.forms.Get<FrameTag>().Edit(); }
 
-void EditFrame(Program& program) {
-  FrameTag& form = program.forms.Get<FrameTag>();
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
-void InsertFrame(Program& program) { ShowForNew(program, program.forms.Get<FrameTag>()); }
+void InsertFrame(Program& program) { program.forms.Get<FrameTag>().Insert(); }
 
 }  // namespace morlan

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "core/defs.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -23,13 +22,9 @@ std::string FrameSetText(const FrameSetValues& values) {
   return tag.Close();
 }
 
-FrameSet::FrameSet(Program& program) : Form("FrameSet", "Zestaw ramek"), program_(program) {
+FrameSet::FrameSet(Program& program) : TagDialog(program, "FrameSet", "Zestaw ramek", kFrameStatus) {
   FillChoices(lnBorder, {"TAK", "NIE"});
-  SetUpButtons(program, *this, Command2, Command1);
-  Command2.OnClick = [this] {
-    Hide();
-    if (!EditsExisting(program_)) InsertPair(program_, Text(), "</FRAMESET>");
-  };
+  SetUp(Command2, Command1);
   SetUpToolTips();
   cols.WidthInCharacters = rows.WidthInCharacters = 32;
   lnBorder.WidthInCharacters = spacing.WidthInCharacters = border.WidthInCharacters = 8;
@@ -58,16 +53,8 @@ FrameSetValues FrameSet::Values() const {
   return {.cols = cols.Text(), .rows = rows.Text(), .lnBorder = lnBorder.ListIndex(), .spacing = spacing.Text(), .border = border.Text()};
 }
 
-std::string FrameSet::Text() const {
-  return TextWithStatus(program_, kFrameStatus, [this] { return FrameSetText(Values()); });
-}
+void EditFrameSet(Program& program) { program.forms.Get<FrameSet>().Edit(); }
 
-void EditFrameSet(Program& program) {
-  FrameSet& form = program.forms.Get<FrameSet>();
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
-void InsertFrameSet(Program& program) { ShowForNew(program, program.forms.Get<FrameSet>()); }
+void InsertFrameSet(Program& program) { program.forms.Get<FrameSet>().Insert(); }
 
 }  // namespace morlan

@@ -5,7 +5,6 @@
 #include "core/defs.h"
 #include "core/text.h"
 #include "tags/frameeditor.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -27,15 +26,11 @@ std::string IFrameText(const IFrameValues& values) {
   return tag.QuotedIfText(" ALIGN=", ItemOfRow(kAlignWords, values.align)).Close();
 }
 
-IFrame::IFrame(Program& program) : Form("IFrame", "Pływająca ramka"_pl), program_(program) {
+IFrame::IFrame(Program& program) : TagDialog(program, "IFrame", "Pływająca ramka"_pl, kFrameStatus) {
   FillChoices(align, {"Na górze"_pl, "Na środku"_pl, "Na dole", "Po lewej", "Po prawej"});
   FillChoices(scrolling, {"Automatyczne", "Tak", "Nie"});
-  SetUpButtons(program, *this, Command2, Command1);
+  SetUp(Command2, Command1);
   SetUpFileButton(program, srcFile, src, kPageFiles);
-  Command2.OnClick = [this] {
-    Hide();
-    if (!EditsExisting(program_)) InsertPair(program_, Text(), "</IFRAME>");
-  };
   SetUpToolTips();
   for (TextBox* box : {&height_, &width_, &marginwidth, &marginheight}) box->WidthInCharacters = 8;
   align.WidthInCharacters = scrolling.WidthInCharacters = 16;
@@ -82,16 +77,8 @@ IFrameValues IFrame::Values() const {
           .align = align.ListIndex()};
 }
 
-std::string IFrame::Text() const {
-  return TextWithStatus(program_, kFrameStatus, [this] { return IFrameText(Values()); });
-}
+void EditIFrame(Program& program) { program.forms.Get<IFrame>().Edit(); }
 
-void EditIFrame(Program& program) {
-  IFrame& form = program.forms.Get<IFrame>();
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
-void InsertIFrame(Program& program) { ShowForNew(program, program.forms.Get<IFrame>()); }
+void InsertIFrame(Program& program) { program.forms.Get<IFrame>().Insert(); }
 
 }  // namespace morlan

@@ -4,22 +4,21 @@
 #include <string>
 #include <string_view>
 
-#include "platform/encoding.h"
-#include "platform/forms/controls.h"
+#include "tags/tagdialog.h"
 
 namespace morlan {
 
-class Program;
-
+// The fields as they go into the document.
 struct IFrameValues {
   std::string src{}, name{}, height{}, width{}, marginwidth{}, marginheight{};
   bool frameBorder = false;
   int scrolling = -1;  // a row of FrameScrolling
   int align = -1;      // 0 top, 1 middle, 2 bottom, 3 left, 4 right
 };
+// The opening tag, SRC and FRAMEBORDER in it always. Numbers are written when they are above zero.
 std::string IFrameText(const IFrameValues& values);
 
-struct IFrame : Form {
+struct IFrame : TagDialog {
   TextBox src{*this, "src"};
   Button srcFile{*this, "srcFile", "..."};
   TextBox name_{*this, "name_"}, height_{*this, "height_"}, width_{*this, "width_"};
@@ -29,15 +28,16 @@ struct IFrame : Form {
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};
 
   explicit IFrame(Program& program);
-  void Read(std::string_view tag);
+  void Read(std::string_view tag) override;
   IFrameValues Values() const;
-  std::string Text() const;  // the tag, with a word in the status line while it is made
+  std::string Text() const override { return IFrameText(Values()); }
+  std::string_view Closing() const override { return "</IFRAME>"; }
 
  private:
   void SetUpToolTips();
-  Program& program_;
 };
 
+// Writes the tag under the caret anew, and puts a new pair of tags round the selection.
 void EditIFrame(Program& program);
 void InsertIFrame(Program& program);
 

@@ -20,14 +20,9 @@ std::string ImageText(const ImageValues& values) {
 }
 
 image::image(Program& program) : Form("image", "Grafika") {
-  FillChoices(wyrownanie, {"TOP", "MIDDLE", "BOTTOM", "RIGHT", "LEFT", "TEXTOP"});
-  SetUpButtons(program, *this, Command2, Command1);
+  FillPictureAlignments(wyrownanie);
+  SetUpFieldButtons(*this, Command2, Command1, source);
   SetUpFileButton(program, sourceFile, source, kPictureFiles);
-  Command2.OnClick = [this] { Hide(); };
-  Command1.OnClick = [this] {
-    source.SetText("");
-    Hide();
-  };
   for (TextBox* box : {&szerokosc, &wysokosc, &ramka, &vspace, &hspace}) box->WidthInCharacters = 8;
   wyrownanie.WidthInCharacters = 12;
   source.WidthInCharacters = 36;

@@ -11,6 +11,7 @@ namespace morlan {
 
 class Program;
 
+// The fields as they go into the document.
 struct ImageValues {
   std::string source{}, alt{}, usemap{}, szerokosc{}, wysokosc{}, ramka{}, vspace{}, hspace{};
   std::string wyrownanie{};  // the word for the document; empty for none
@@ -19,6 +20,7 @@ struct ImageValues {
 // A map is written with a "#" in front, whether it was given with one or not.
 std::string ImageText(const ImageValues& values);
 
+// An empty source counts as cancelled.
 struct image : Form {
   TextBox source{*this, "source"};
   Button sourceFile{*this, "sourceFile", "..."};
@@ -37,6 +39,7 @@ struct image : Form {
   void SetUpToolTips();
 };
 
+// Writes the tag under the caret anew, and inserts a new one.
 void EditImage(Program& program);
 void InsertImage(Program& program);
 

@@ -27,13 +27,8 @@ std::string LineText(const LineValues& values) {
 
 lineedit::lineedit(Program& program) : Form("lineedit", "Linie"), kolory(program, *this, wzor, WhiteOption::IsNotSeen) {
   FillChoices(Wyrownanie, {"Do lewej", "Centruj", "Do prawej"});
-  SetUpButtons(program, *this, Command1, Command2);
-  Command1.OnClick = [this] { Hide(); };
-  Command2.OnClick = [this] {
-    Dlugosc.SetText(kCancelled);
-    Hide();
-  };
-  OnLoad = [this] { wzor.SetValue(kolory.UserColour()); };
+  SetUpFieldButtons(*this, Command1, Command2, Dlugosc, kCancelled);
+  OnLoad = [this] { kolory.ShowSelected(); };
   Dlugosc.SetToolTip("Długość linii w punktach albo w procentach okna"_pl);
   Wysokosc.SetToolTip("Grubość linii w punktach"_pl);
   Wyrownanie.SetToolTip("Położenie linii krótszej niż okno"_pl);

@@ -10,12 +10,14 @@
 
 namespace morlan {
 
+// The fields; the lengths as texts.
 struct LineValues {
   std::string dlugosc{}, wysokosc{};  // as they go into the document
   std::string wyrownanie{};           // a label; empty for none
   bool bezCienia = false;
   std::optional<std::string> colour{};  // the word for the document
 };
+// The tag. A text that is no number is written as it stands.
 std::string LineText(const LineValues& values);
 
 // The names of the two buttons are swapped in this dialog.
@@ -33,6 +35,7 @@ struct lineedit : Form {
   bool IsCancelled() const;
 };
 
+// Writes the tag under the caret anew, and inserts a new one.
 void EditLine(Program& program);
 void InsertLine(Program& program);
 

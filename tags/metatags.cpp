@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "core/defs.h"
-#include "core/document.h"
+#include "core/editsurface.h"
 #include "core/text.h"
 #include "tags/insertcommands.h"
 #include "tags/tagscan.h"

@@ -69,7 +69,7 @@ void Properties::SetUpCssPage() {
 }
 
 void Properties::Form_Load() {
-  SheetsOf(program_).ReadAnew();
+  SheetsOf(program_).ReadIfChanged();
   const std::string tag = program_.tagState.CurrentTagText;
   tagName_ = TagNameOf(tag);
   SetCaption(Concat({"Właściwości <"_pl, tagName_, ">"}));
@@ -213,8 +213,10 @@ void Properties::TakeTag() {
   if (!program_.ActiveDocument || start == 0) return;
   TEditor& document = *program_.ActiveDocument;
   MlnEditor& editor = document.EditedText;
+  const std::string& oldTag = program_.tagState.CurrentTagText;
   const std::size_t end = morlan::Find(editor.Text(), ">", start);
-  if (end == 0) return;
+  // Another document may have come forward meanwhile.
+  if (end == 0 || std::string_view(editor.Text()).substr(start - 1, oldTag.size()) != oldTag) return;
   editor.SetSelStart(start - 1);
   editor.SetSelLength(end - start + 1);
   const std::string newTag = PropertyText(Values());

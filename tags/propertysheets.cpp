@@ -31,6 +31,11 @@ const PropertyFile& PropertySheets::File() {
   return file_;
 }
 
+void PropertySheets::ReadIfChanged() {
+  const auto present = program_.platform.files.Map(Path());
+  if (!present || present->Bytes() != file_.Bytes()) ReadAnew();
+}
+
 bool PropertySheets::Change(const std::function<bool(PropertyFile& file)>& change) {
   ReadAnew();
   PropertyFile changed = File();

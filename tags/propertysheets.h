@@ -15,7 +15,7 @@ namespace morlan {
 
 class Program;
 
-// Keeps what was read, since hints ask on every key: the file is read anew only when its length has changed or somebody
+// Keeps what was read, since hints ask on every key: the file is read again only when its length has changed or somebody
 // asks for it. A missing file is an empty one.
 class PropertySheets {
  public:
@@ -23,6 +23,8 @@ class PropertySheets {
 
   const PropertyFile& File();
   void ReadAnew() { readLength_.reset(); }
+  // Compares the file with what was read, which costs less than to read it.
+  void ReadIfChanged();
   // Reads, changes and writes. False, with the file as it was, when the change says so or the file cannot be written.
   bool Change(const std::function<bool(PropertyFile& file)>& change);
 

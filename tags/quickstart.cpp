@@ -2,6 +2,7 @@
 
 #include "core/defs.h"
 #include "core/editsurface.h"
+#include "core/settings.h"
 #include "core/status.h"
 #include "core/text.h"
 #include "tags/bodyeditor.h"
@@ -43,7 +44,7 @@ void StartPage(Program& program) {
   program.ActiveEditor->Select(0, 0);
   InsertPair(program, PageSkeleton(form.doctype.Text(), form.tytul.Text()), "");
   SetMeta(program, "HTTP-EQUIV", "Generator", Concat({"Morlan7 Version ", VersionText}));
-  const std::string charset = program.MainIni.GetSubItemValue("Document", "CharSet");
+  const std::string charset = Settings(program.MainIni).Text(Setting::CharSet);
   SetMeta(program, "HTTP-EQUIV", "Content-Type", Concat({"text/html;CHARSET=", charset}));
   if (form.startbody.Value()) EditBody(program);
 }

@@ -11,8 +11,10 @@ namespace morlan {
 
 class Program;
 
+// A whole page with an empty body. An empty type leaves its line empty.
 std::string PageSkeleton(std::string_view docType, std::string_view title);
 
+// Its list of document types remembers what was confirmed.
 struct QuickStart : Form {
   TextBox tytul{*this, "tytul"};
   ComboBox doctype{*this, "doctype"};
@@ -22,6 +24,7 @@ struct QuickStart : Form {
   explicit QuickStart(Program& program);
 };
 
+// Asks, writes the skeleton and its two META tags, and goes on to the properties of the page when that is wanted.
 void StartPage(Program& program);
 
 }  // namespace morlan

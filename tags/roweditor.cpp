@@ -3,7 +3,6 @@
 #include "core/defs.h"
 #include "core/text.h"
 #include "tags/alignlabels.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -24,15 +23,11 @@ std::string RowText(const RowValues& values) {
   return tag.Close();
 }
 
-DTR::DTR(Program& program) : Form("DTR", "Wiersz tabeli"), program_(program) {
+DTR::DTR(Program& program) : TagDialog(program, "DTR", "Wiersz tabeli", kTableStatus) {
   FillChoices(Align, {"Do lewej", "Do prawej", "Wycentrowane"});
   FillChoices(Valign, {"U góry"_pl, "Na środku"_pl, "Na dole", "U podstawy linii"});
-  SetUpButtons(program, *this, Command2, Command1);
+  SetUp(Command2, Command1);
   SetUpColourBox(program, fillwithcolor, isbackcolor);
-  Command2.OnClick = [this] {
-    Hide();
-    if (!EditsExisting(program_)) InsertPair(program_, Text(), "</TR>");
-  };
   Align.SetToolTip("Położenie tekstu w komórkach wiersza w poziomie"_pl);
   Valign.SetToolTip("Położenie tekstu w komórkach wiersza w pionie"_pl);
   isbackcolor.SetToolTip("Wypełnia tło wiersza kolorem"_pl);
@@ -51,16 +46,8 @@ RowValues DTR::Values() const {
   return {.align = Align.Text(), .valign = Valign.Text(), .backColour = BackColour(isbackcolor, fillwithcolor)};
 }
 
-std::string DTR::Text() const {
-  return TextWithStatus(program_, kTableStatus, [this] { return RowText(Values()); });
-}
+void EditRow(Program& program) { program.forms.Get<DTR>().Edit(); }
 
-void EditRow(Program& program) {
-  DTR& form = program.forms.Get<DTR>();
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
-void InsertRow(Program& program) { ShowForNew(program, program.forms.Get<DTR>()); }
+void InsertRow(Program& program) { program.forms.Get<DTR>().Insert(); }
 
 }  // namespace morlan

@@ -5,34 +5,32 @@
 #include <string>
 #include <string_view>
 
-#include "platform/encoding.h"
-#include "platform/forms/controls.h"
+#include "tags/tagdialog.h"
 
 namespace morlan {
 
-class Program;
-
+// The fields as they are chosen.
 struct RowValues {
   std::string align{}, valign{};  // labels; empty for none
   std::optional<Colour> backColour{};
 };
+// The opening tag, with the words of the labels in capitals.
 std::string RowText(const RowValues& values);
 
-struct DTR : Form {
+struct DTR : TagDialog {
   ComboBox Align{*this, "Align", ComboBox::Style::ListOnly}, Valign{*this, "Valign", ComboBox::Style::ListOnly};
   CheckBox isbackcolor{*this, "isbackcolor", "Wypełnij &kolorem"_pl};
   ColourBox fillwithcolor{*this, "fillwithcolor", ""};
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};
 
   explicit DTR(Program& program);
-  void Read(std::string_view tag);
+  void Read(std::string_view tag) override;
   RowValues Values() const;
-  std::string Text() const;  // the tag, with a word in the status line while it is made
-
- private:
-  Program& program_;
+  std::string Text() const override { return RowText(Values()); }
+  std::string_view Closing() const override { return "</TR>"; }
 };
 
+// Writes the tag under the caret anew, and puts a new pair of tags round the selection.
 void EditRow(Program& program);
 void InsertRow(Program& program);
 

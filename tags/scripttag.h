@@ -5,6 +5,7 @@
 
 namespace morlan {
 
+// The fields as they go into the document.
 struct ScriptValues {
   std::string language{}, source{}, runAt{};
 };

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/defs.h"
-#include "core/document.h"
+#include "core/editsurface.h"
 #include "core/text.h"
 #include "tags/colours.h"
 #include "tags/insertcommands.h"

@@ -1,6 +1,7 @@
 #include "tags/styleclasses.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "core/text.h"
 #include "tags/tagscan.h"
@@ -10,22 +11,30 @@ namespace {
 
 constexpr std::string_view kStyleStart = "<style", kStyleEnd = "</style>", kLinkStart = "<link";
 
-void AddOnce(std::vector<std::string>& names, std::string_view name) {
-  if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end()) names.emplace_back(name);
-}
+// Texts in the order in which they came first.
+class OnceEach {
+ public:
+  void Add(std::string_view name) {
+    if (!name.empty() && seen_.emplace(name).second) names.emplace_back(name);
+  }
+  std::vector<std::string> names;
+
+ private:
+  std::unordered_set<std::string> seen_;
+};
 
 }  // namespace
 
 std::vector<std::string> ClassesInSheet(std::string_view sheet, std::string_view tagName) {
-  std::vector<std::string> names;
-  if (tagName.empty()) return names;
+  OnceEach classes;
+  if (tagName.empty()) return {};
   const std::string lower = LowerCase(sheet), key = Concat({LowerCase(tagName), "."});
   for (std::size_t hit = lower.find(key); hit != std::string::npos; hit = lower.find(key, hit + key.size())) {
     const std::size_t start = hit + key.size();
     const std::size_t end = std::min(lower.find_first_of(" {\t\r\n", start), lower.size());
-    AddOnce(names, sheet.substr(start, end - start));
+    classes.Add(sheet.substr(start, end - start));
   }
-  return names;
+  return classes.names;
 }
 
 std::vector<std::string> ClassesInPage(std::string_view page, std::string_view tagName) {
@@ -39,15 +48,15 @@ std::vector<std::string> ClassesInFile(std::string_view content, std::string_vie
 }
 
 std::vector<std::string> LinkedSheets(std::string_view page) {
-  std::vector<std::string> links;
+  OnceEach links;
   for (std::size_t start = FindNoCase(page, kLinkStart); start != 0;) {
     const std::size_t end = Find(page, ">", start);
     if (end == 0) break;
     const std::string_view tag = page.substr(start - 1, end - start);
-    if (EqualNoCase(GetTagParam(tag, "rel"), "stylesheet")) AddOnce(links, GetTagParam(tag, "href"));
+    if (EqualNoCase(GetTagParam(tag, "rel"), "stylesheet")) links.Add(GetTagParam(tag, "href"));
     start = FindNoCase(page, kLinkStart, end);
   }
-  return links;
+  return links.names;
 }
 
 }  // namespace morlan

@@ -12,6 +12,7 @@ class Program;
 // store takes capital and small letters for one, so the item with exactly this character goes first.
 std::string TextOfSymbol(Program& program, std::string_view symbol);
 
+// Inserts that text at the caret; nothing for an empty symbol.
 void InsertSymbol(Program& program, std::string_view symbol);
 
 // Asks which symbol takes the place of the one on a button, from 0.

@@ -2,10 +2,7 @@
 
 #include "core/defs.h"
 #include "core/status.h"
-#include "core/text.h"
 #include "tags/alignlabels.h"
-#include "tags/colours.h"
-#include "tags/insertcommands.h"
 #include "tags/tageditor.h"
 #include "tags/tagscan.h"
 
@@ -23,19 +20,16 @@ std::string TableText(const TableValues& values) {
   return tag.Close();
 }
 
-Tabela::Tabela(Program& program) : Form("Tabela", "Tabela"), program_(program) {
+Tabela::Tabela(Program& program) : TagDialog(program, "Tabela", "Tabela", kTableStatus) {
   // In the order of TableAlign and TableVAlign.
   FillChoices(align, {"Formtauj jak tekst", "Na lewej krawędzi okna"_pl, "Na prawej krawędzi okna"_pl, "Na środku"_pl,
                       "W miejscu najbardziej dogodnym", "Z lewej", "Z prawej"});
   FillChoices(valign, {"Podstawa linii", "Wysokość linii"_pl});
-  SetUpButtons(program, *this, Command2, Command1);
+  SetUp(Command2, Command1);
   SetUpFileButton(program, backgroundFile, background, kPictureFiles);
   SetUpColourBox(program, fillwithcolor, isbackcolor);
-  Command2.OnClick = [this] {
-    Hide();
-    if (!EditsExisting(program_)) InsertPair(program_, Text(), "</TABLE>");
-  };
   for (TextBox* box : {&border, &Height_, &Width_, &cellspacing, &cellpadding}) box->WidthInCharacters = 8;
+  align.WidthInCharacters = valign.WidthInCharacters = 28;
   SetUpToolTips();
   using namespace layout;
   const Layout size =
@@ -89,16 +83,8 @@ TableValues Tabela::Values() const {
           .cellpadding = cellpadding.Text()};
 }
 
-std::string Tabela::Text() const {
-  return TextWithStatus(program_, kTableStatus, [this] { return TableText(Values()); });
-}
+void EditTable(Program& program) { program.forms.Get<Tabela>().Edit(); }
 
-void EditTable(Program& program) {
-  Tabela& form = program.forms.Get<Tabela>();
-  form.Read(program.tagState.CurrentTagText);
-  if (ShowForExisting(program, form)) RewriteTag(program, form.Text());
-}
-
-void InsertTable(Program& program) { ShowForNew(program, program.forms.Get<Tabela>()); }
+void InsertTable(Program& program) { program.forms.Get<Tabela>().Insert(); }
 
 }  // namespace morlan

@@ -5,13 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "platform/encoding.h"
-#include "platform/forms/controls.h"
+#include "tags/tagdialog.h"
 
 namespace morlan {
 
-class Program;
-
+// The fields as they go into the document.
 struct TableValues {
   std::string border{}, height{}, width{}, background{};
   std::optional<Colour> backColour{};
@@ -19,9 +17,10 @@ struct TableValues {
   bool noflow = false, nowarp = false;
   std::string cellspacing{}, cellpadding{};
 };
+// The opening tag. Numbers are written when they are above zero; NOWARP is spelt like this.
 std::string TableText(const TableValues& values);
 
-struct Tabela : Form {
+struct Tabela : TagDialog {
   TextBox border{*this, "border"}, Height_{*this, "Height_"}, Width_{*this, "Width_"}, background{*this, "background"};
   Button backgroundFile{*this, "backgroundFile", "..."};
   CheckBox isbackcolor{*this, "isbackcolor", "Wypełnij &kolorem"_pl};
@@ -32,15 +31,16 @@ struct Tabela : Form {
   Button Command2{*this, "Command2", "&Ok"}, Command1{*this, "Command1", "&Anuluj"};
 
   explicit Tabela(Program& program);
-  void Read(std::string_view tag);
+  void Read(std::string_view tag) override;
   TableValues Values() const;
-  std::string Text() const;  // the tag, with a word in the status line while it is made
+  std::string Text() const override { return TableText(Values()); }
+  std::string_view Closing() const override { return "</TABLE>"; }
 
  private:
   void SetUpToolTips();
-  Program& program_;
 };
 
+// Writes the tag under the caret anew, and puts a new pair of tags round the selection.
 void EditTable(Program& program);
 void InsertTable(Program& program);
 

@@ -50,8 +50,9 @@ void RewriteTag(Program& program, std::string_view newTag) {
   if (!program.ActiveDocument || start == 0) return;
   TEditor& document = *program.ActiveDocument;
   MlnEditor& editor = document.EditedText;
-  const std::size_t end = Find(editor.Text(), ">", start);
-  if (end == 0) return;
+  const std::string& text = editor.Text();
+  const std::size_t end = Find(text, ">", start);
+  if (end == 0 || text[start - 1] != '<') return;
   editor.Select(start - 1, end - start + 1);
   const std::string oldTag = editor.SelText();
   editor.SetSelText("");
@@ -100,13 +101,6 @@ int RowOfWord(std::span<const ReadWord> words, std::string_view word) {
   return -1;
 }
 
-std::string TextWithStatus(Program& program, std::string_view status, const std::function<std::string()>& makeText) {
-  ShowBusy(program, status);
-  std::string text = makeText();
-  ShowReady(program);
-  return text;
-}
-
 void ShowBackColour(std::string_view value, CheckBox& isUsed, ColourBox& sample) {
   isUsed.SetValue(!value.empty());
   if (!value.empty()) sample.SetValue(ColorNameToValue(value));
@@ -119,6 +113,12 @@ std::optional<Colour> BackColour(const CheckBox& isUsed, const ColourBox& sample
 void FillChoices(ComboBox& box, std::initializer_list<std::string_view> rows) {
   for (const std::string_view row : rows) box.AddItem(row);
   box.AddItem("");
+}
+
+void FillPictureAlignments(ComboBox& box) { FillChoices(box, {"TOP", "MIDDLE", "BOTTOM", "RIGHT", "LEFT", "TEXTOP"}); }
+
+void FillTargets(ComboBox& box) {
+  for (const std::string_view target : {"_blank", "_parent", "_self", "_top"}) box.AddItem(target);
 }
 
 void SetUpButtons(Program& program, Form& form, Button& ok, Button& cancel, std::string_view cancelled) {

@@ -2,7 +2,6 @@
 // to a new one, and the pieces that tags are written from.
 #pragma once
 
-#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <span>
@@ -68,21 +67,32 @@ struct ReadWord {
 // -1 for a word that is not read.
 int RowOfWord(std::span<const ReadWord> words, std::string_view word);
 
-// Texts of the status line while a tag is made.
-inline constexpr std::string_view kTableStatus = "Generowanie znacznika tabeli...";
-inline constexpr std::string_view kFrameStatus = "Generowanie znacznika ramki...";
-inline constexpr std::string_view kFormStatus = "Generowanie znacznika formularza...";
-std::string TextWithStatus(Program& program, std::string_view status, const std::function<std::string()>& makeText);
-
 // The colour of a background: shown when there is one, and taken while its box is ticked.
 void ShowBackColour(std::string_view value, CheckBox& isUsed, ColourBox& sample);
 std::optional<Colour> BackColour(const CheckBox& isUsed, const ColourBox& sample);
 
 // Gives a list its rows and, last, a blank one that takes a choice back.
 void FillChoices(ComboBox& box, std::initializer_list<std::string_view> rows);
+// The places of a picture or an embedded file in its line.
+void FillPictureAlignments(ComboBox& box);
+// The windows and frames that every browser knows.
+void FillTargets(ComboBox& box);
 
 // Enter, Esc, and what the cancel button leaves in DialogResult.
 void SetUpButtons(Program& program, Form& form, Button& ok, Button& cancel, std::string_view cancelled = "-1");
+
+// Likewise for a dialog whose OK button only closes it, and whose cancel button tells of itself in a field: it leaves that
+// empty, or with the word for "cancelled" in it.
+template <class Field>
+void SetUpFieldButtons(Form& form, Button& ok, Button& cancel, Field& field, std::string_view cancelled = "") {
+  form.defaultButton = &ok;
+  form.cancelButton = &cancel;
+  ok.OnClick = [&form] { form.Hide(); };
+  cancel.OnClick = [&form, &field, cancelled] {
+    field.SetText(cancelled);
+    form.Hide();
+  };
+}
 
 // Filters of the file buttons.
 extern const std::string_view kPictureFiles, kSoundFiles, kPageFiles;

@@ -2,7 +2,6 @@
 
 #include "core/defs.h"
 #include "core/status.h"
-#include "core/text.h"
 #include "tags/metatags.h"
 #include "tags/tageditor.h"
 

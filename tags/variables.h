@@ -12,6 +12,7 @@ namespace morlan {
 
 class Program;
 
+// Each kind of variables has a list of names, which remembers what was confirmed.
 struct Variables : Form {
   OptionButton typ0{*this, "typ(0)", "Naz&wa", "typ", true}, typ1{*this, "typ(1)", "&HTTP-EQUIV", "typ"};
   ComboBox nazwa{*this, "nazwa"};
@@ -30,6 +31,7 @@ struct Variables : Form {
   std::array<std::string, 2> names_;  // what stands in the field of each kind
 };
 
+// Shows the dialog, whose OK button sets the variable in the active document.
 void SetVariables(Program& program);
 
 }  // namespace morlan

@@ -14,12 +14,14 @@ namespace morlan {
 namespace {
 
 constexpr std::string_view kContentType = "Content-Type";
+constexpr std::string_view kOtherEntry = "xmn_plcharinne";
 constexpr std::string_view kSymbolsEntry = "xmn_symbols";
 
 void ChooseCharSet(Program& program) {
   if (!program.ActiveDocument) return;
   SelectCharSetByDialog(program);
-  // The tick comes back to the set that the page has when none was chosen.
+  // The click has ticked the entry where it was shown; when nothing was chosen the tick goes back to the page's set.
+  program.ActiveDocument->menu.SetChecked(kOtherEntry, true);
   if (program.DialogResult.empty()) return MarkCharSet(program, *program.ActiveDocument);
   SetDocumentCharSet(program, program.DialogResult);
 }
@@ -48,7 +50,7 @@ struct CommandRow {
   void (*run)(Program& program);
 };
 constexpr CommandRow kCommands[] = {
-    {"xmn_plcharinne", "", ChooseCharSet},    {"xmn_symbols", "", SwitchSymbols},           {"mn_conventer", "Conventer", ShowConventer},
+    {kOtherEntry, "", ChooseCharSet},         {kSymbolsEntry, "", SwitchSymbols},           {"mn_conventer", "Conventer", ShowConventer},
     {"", "CreateCharSet", ShowCreateCharSet}, {"", "SelectCharSet", SelectCharSetByDialog},
 };
 

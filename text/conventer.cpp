@@ -97,8 +97,10 @@ void Conventer::Command2_Click() {
   if (FormatList.ListIndex() < 0) return ShowError(program_, "Nie wskazany format plików wyjściowych. Proszę wskazać."_pl);
   if (!AskForName.Value() && !OverWrite.Value())
     return ShowError(program_, "Proszę zaznaczyć pytanie o nazwę albo nadpisywanie plików źródłowych."_pl);
-  pages_ = PagesOfSource(program_, Trim(FileName.Text()), Subfolders.Value() ? Subdirectories::Yes : Subdirectories::No);
-  if (pages_.empty()) return ShowError(program_, "Nie wskazane pliki źródłowe. Proszę wskazać."_pl);
+  const std::string_view source = Trim(FileName.Text());
+  if (source.empty()) return ShowError(program_, "Nie wskazane pliki źródłowe. Proszę wskazać."_pl);
+  pages_ = PagesOfSource(program_, source, Subfolders.Value() ? Subdirectories::Yes : Subdirectories::No);
+  if (pages_.empty()) return ShowError(program_, "Nie ma plików do przekształcenia !"_pl);
   sets_ = LoadCharSets(program_);
   next_ = converted_ = 0;
   Report.Clear();
@@ -110,8 +112,7 @@ void Conventer::Command2_Click() {
 
 void Conventer::Command1_Click() {
   if (!runs_) return Hide();
-  pages_.resize(next_);
-  Finish();
+  Finish(End::Stopped);
 }
 
 void Conventer::Step_Timer() {
@@ -121,7 +122,7 @@ void Conventer::Step_Timer() {
   const std::string path = pages_[next_++];
   ConvertFile(path);
   if (!runs_) return;  // stopped behind the question
-  if (next_ == pages_.size()) return Finish();
+  if (next_ == pages_.size()) return Finish(End::Done);
   ShowProgress();
   Step.SetEnabled(true);
 }
@@ -147,6 +148,7 @@ std::string Conventer::TargetOf(const std::string& path) {
   request.title = Concat({"Podaj nową nazwę dla pliku "_pl, FileNameOf(path)});
   request.filter = kTargetFilter;
   request.directory = PathOf(path);
+  if (request.directory.empty()) request.directory = program_.platform.files.CurrentDirectory();
   request.fileName = FileNameOf(path);
   request.extension = ".html";
   request.overwritePrompt = !OverWrite.Value();
@@ -159,11 +161,12 @@ void Conventer::ShowProgress() {
   Progress.SetCaption(Concat({"Plik ", Number(next_ + 1), " z ", Number(pages_.size()), ": ", FileNameOf(pages_[next_])}));
 }
 
-void Conventer::Finish() {
+void Conventer::Finish(End end) {
   runs_ = false;
   Step.SetEnabled(false);
   SwitchControls(true);
-  Progress.SetCaption(Concat({"Przekształcono plików: "_pl, Number(converted_), " z ", Number(pages_.size())}));
+  Progress.SetCaption(
+      Concat({"Przekształcono plików: "_pl, Number(converted_), " z ", Number(pages_.size()), end == End::Stopped ? ", przerwano" : ""}));
   ShowReady(program_);
 }
 

@@ -18,7 +18,7 @@ struct Conventer : Form {
   TextBox FileName{*this, "FileName"};
   Button FileButton{*this, "FileButton", "..."};
   Button DirectoryButton{*this, "DirectoryButton", "&Katalog..."};
-  CheckBox ConvertType{*this, "ConvertType", "&Projekt"};
+  CheckBox ConvertType{*this, "ConvertType", "P&rojekt"};
   CheckBox Subfolders{*this, "Subfolders", "Z po&dkatalogami"};
   ComboBox FormatList{*this, "FormatList", ComboBox::Style::ListOnly};
   CheckBox AskForName{*this, "AskForName", "Pytaj o &nazwę"_pl, true};
@@ -40,10 +40,10 @@ struct Conventer : Form {
   void ConvertFile(const std::string& path);
   std::string TargetOf(const std::string& path);
   void ShowProgress();
-  void Finish();
+  enum class End { Done, Stopped };
+  void Finish(End end);
   void Note(const std::string& path, std::string_view text);
   void SwitchControls(bool enabled);
-  bool Runs() const { return runs_; }
 
   Program& program_;
   CharSetFile sets_;

@@ -36,7 +36,6 @@ std::string MixedLettersNote(const CharSetFile& file, const CharSetCodes& codes)
 }
 
 CreateCharSet::CreateCharSet(Program& program) : Form("CreateCharSet", "Utwórz nowy format zapisu"_pl), program_(program) {
-  MakeLetters();
   CharSetName.SetToolTip("Nazwa formatu, taka jak w znaczniku META strony; wybór z listy pokazuje gotowy format"_pl);
   CharSetInfo.SetToolTip("Kilka słów o formacie"_pl);
   CharSetInfo.MaxLength = kCharSetInfoSize;
@@ -53,12 +52,15 @@ CreateCharSet::CreateCharSet(Program& program) : Form("CreateCharSet", "Utwórz 
   firstFocus = &CharSetName;
 }
 
-void CreateCharSet::MakeLetters() {
-  for (std::size_t letter = 0; letter < n.size(); ++letter) {
-    n[letter] = std::make_unique<Button>(*this, Concat({"n(", NumberText(static_cast<std::int64_t>(letter)), ")"}), "");
-    n[letter]->OnClick = [this, letter] { n_Click(letter); };
-    n[letter]->SetToolTip("Kod tej litery w formacie: wprowadź znak o tym kodzie albo &# i liczbę, na przykład &#177"_pl);
+CreateCharSet::Letters CreateCharSet::MakeLetters() {
+  Letters letters;
+  for (std::size_t letter = 0; letter < letters.size(); ++letter) {
+    auto button = std::make_unique<Button>(*this, Concat({"n(", NumberText(static_cast<std::int64_t>(letter)), ")"}), "");
+    button->OnClick = [this, letter] { n_Click(letter); };
+    button->SetToolTip("Kod tej litery w formacie: wprowadź znak o tym kodzie albo &# i liczbę, na przykład &#177"_pl);
+    letters[letter] = std::move(button);
   }
+  return letters;
 }
 
 Layout CreateCharSet::LetterLayout() {

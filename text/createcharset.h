@@ -15,12 +15,13 @@ struct CreateCharSet : Form {
 
   ComboBox CharSetName{*this, "CharSetName"};
   TextBox CharSetInfo{*this, "CharSetInfo"};
-  std::array<std::unique_ptr<Button>, kNationalLetters.size()> n;  // "n(0)" to "n(17)", a letter and its code each
+  using Letters = std::array<std::unique_ptr<Button>, kNationalLetters.size()>;
+  Letters n = MakeLetters();  // "n(0)" to "n(17)", a letter and its code each
   Label Mixed{*this, "Mixed"};
   Button Command2{*this, "Command2", "Zapi&sz"}, Command1{*this, "Command1", "&Zamknij"};
 
  private:
-  void MakeLetters();
+  Letters MakeLetters();
   Layout LetterLayout();
   void Form_Load();
   void FillNames();

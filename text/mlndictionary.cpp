@@ -90,8 +90,8 @@ void MlnDictionary::CheckWords() {
   Word word;
   std::size_t words = 0, nextPart = kPart;
   const auto tellPart = [&] {
-    if (MlnDictionary_NextPartDone)
-      MlnDictionary_NextPartDone(static_cast<int>(100.0 * reader.Offset() / std::max<std::size_t>(Text.size(), 1)), words);
+    const double read = Text.empty() ? 1 : static_cast<double>(reader.Offset()) / static_cast<double>(Text.size());
+    if (MlnDictionary_NextPartDone) MlnDictionary_NextPartDone(static_cast<int>(100 * read), words);
   };
   while (!stopped_ && reader.Next(word)) {
     ++words;
@@ -159,6 +159,7 @@ bool MlnDictionary::IsKnown(std::string_view word) const { return IsHeldInAnyCas
 std::vector<std::string> MlnDictionary::Similar(std::string_view word) const {
   std::vector<std::string> similar = SimilarWords(automaton_, word, kMostSimilar);
   if (IsLower(word)) return similar;
+  std::erase_if(similar, IsLower);
   for (const std::string& lowered : SimilarWords(automaton_, LowerCase(word), kMostSimilar)) {
     const bool isCapital = IsLower(word.substr(1));
     std::string cased = IsUpper(word) ? UpperCase(lowered) : isCapital ? WithCapital(lowered) : lowered;

@@ -4,15 +4,22 @@
 #include <map>
 
 #include "platform/encoding.h"
+#include "platform/lettercase.h"
 
 namespace morlan {
 namespace {
 
 // What one slip costs, and the most that the slips of a word may.
-constexpr int kHalfSlip = 1, kSlip = 2, kMostSlips = 4;
+constexpr int kHalfSlip = 1, kSlip = 2, kMostSlips = 4, kMostInShortWord = 3;
 constexpr std::size_t kLongestWord = 40;
+// Nearly every word of fewer letters is two slips away from any other.
+constexpr std::size_t kLongestShortWord = 4;
 // Looking stops behind so many letters, so that no dictionary can hold the window up.
 constexpr int kMostSteps = 2'000'000;
+
+// Words that people write together with the next one.
+constexpr std::string_view kSmallWords[] = {"w",   "z",   "na",  "po",  "do",  "od",    "za",   "co",
+                                            "nie", "bez", "dla", "nad", "pod", "przed", "przez"};
 
 struct AlikeRow {
   std::string_view written, meant;
@@ -25,13 +32,16 @@ constexpr AlikeRow kAlike[] = {
     {"ź"_pl, "ż"_pl}, {"ż"_pl, "ź"_pl}, {"ci", "ć"_pl}, {"ć"_pl, "ci"}, {"si", "ś"_pl}, {"ś"_pl, "si"}, {"zi", "ź"_pl}, {"ź"_pl, "zi"},
     {"ni", "ń"_pl},   {"ń"_pl, "ni"},   {"i", "j"},     {"j", "i"},     {"i", "y"},     {"y", "i"},     {"sz", "rz"},   {"rz", "sz"},
     {"d", "t"},       {"t", "d"},       {"b", "p"},     {"p", "b"},     {"w", "f"},     {"f", "w"},     {"g", "k"},     {"k", "g"},
+    {"z", "s"},       {"s", "z"},
 };
+
+using Costs = std::map<std::string, int>;
 
 class Search {
  public:
   Search(const WordAutomaton& words, std::string_view word, int most) : words_(words), word_(word), most_(most) {}
 
-  std::map<std::string, int> Run() {
+  Costs Run() {
     Walk({words_.Start(), false, 0, 0});
     return std::move(found_);
   }
@@ -76,6 +86,9 @@ class Search {
     const std::string_view rest = word_.substr(at.offset);
     for (const AlikeRow& row : kAlike)
       if (rest.starts_with(row.written)) Follow(at, row.meant, row.written.size(), kHalfSlip);
+    const bool isDoubled = at.offset > 0 && !rest.empty() && rest[0] == word_[at.offset - 1];
+    if (isDoubled) Walk({at.place, at.wordEnds, at.offset + 1, at.cost + kHalfSlip});
+    if (!rest.empty()) Follow(at, std::string{rest[0], rest[0]}, 1, kHalfSlip);
   }
 
   void TrySlips(const At& at) {
@@ -97,18 +110,29 @@ class Search {
   std::string_view word_;
   int most_, steps_ = 0;
   std::string walked_;
-  std::map<std::string, int> found_;
+  Costs found_;
 };
 
 }  // namespace
 
+void AddParted(const WordAutomaton& words, std::string_view word, Costs& found) {
+  for (const std::string_view small : kSmallWords) {
+    if (!word.starts_with(small) || !words.Holds(word.substr(small.size()))) continue;
+    found.try_emplace(std::string(small) + ' ' + std::string(word.substr(small.size())), kHalfSlip);
+  }
+}
+
 std::vector<std::string> SimilarWords(const WordAutomaton& words, std::string_view word, std::size_t most) {
   if (word.empty() || word.size() > kLongestWord) return {};
-  // One slip first: two are looked for only where that finds nothing.
-  auto found = Search(words, word, kSlip).Run();
-  if (found.empty()) found = Search(words, word, kMostSlips).Run();
+  // One slip first: more are looked for only where that finds nothing.
+  Costs found = Search(words, word, kSlip).Run();
+  AddParted(words, word, found);
+  if (found.empty()) found = Search(words, word, word.size() > kLongestShortWord ? kMostSlips : kMostInShortWord).Run();
   found.erase(std::string(word));
   std::vector<std::pair<std::string, int>> nearest(found.begin(), found.end());
+  // A name is seldom meant by a word in small letters.
+  if (LowerCase(word) == word)
+    for (auto& [similar, cost] : nearest) cost += LowerCase(similar) == similar ? 0 : kSlip;
   std::stable_sort(nearest.begin(), nearest.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
   std::vector<std::string> similar;
   for (std::size_t i = 0; i < std::min(most, nearest.size()); ++i) similar.push_back(nearest[i].first);

@@ -1,6 +1,7 @@
 #include "text/spelling.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
 
 #include "core/defs.h"
@@ -38,12 +39,17 @@ std::string ExtensionOf(Program& program, std::string_view language) {
   return {};
 }
 
+std::shared_ptr<TEditor> ActiveDocumentOf(const Program& program) {
+  const auto& documents = program.documents;
+  return *std::find_if(documents.begin(), documents.end(), [&](const auto& document) { return document.get() == program.ActiveDocument; });
+}
+
 // One run of the control over the active document.
 class Check {
  public:
   Check(Program& program, std::string_view extension)
       : program_(program),
-        document_(*program.ActiveDocument),
+        document_(ActiveDocumentOf(program)),
         control_(program.platform.files),
         dialog_(program.forms.Get<WordNotFound>()) {
     Settings settings(program.MainIni);
@@ -51,7 +57,7 @@ class Check {
     control_.IgnoreUpperCase = settings.Flag(Setting::IgnoreUpperCase);
     control_.IgnoreNumbers = settings.Flag(Setting::IgnoreNumbers);
     control_.Language = LanguageNumberOf(extension);
-    control_.Text = document_.EditedText.Text();
+    control_.Text = document_->EditedText.Text();
     control_.MlnDictionary_MissSpeld = [this](const std::string& word, std::string& replacement, std::size_t start, std::size_t length) {
       MissSpeld(word, replacement, start, length);
     };
@@ -71,7 +77,7 @@ class Check {
  private:
   void SelectWord(std::size_t start, std::size_t length) {
     const std::ptrdiff_t offset = control_.TextOffset + static_cast<std::ptrdiff_t>(start) - 1;
-    document_.EditedText.Select(static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0)), length);
+    document_->EditedText.Select(static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0)), length);
   }
 
   void MissSpeld(const std::string& word, std::string& replacement, std::size_t start, std::size_t length) {
@@ -85,10 +91,10 @@ class Check {
   }
 
   void Replace(const std::string& replacement, std::size_t start, std::size_t length) {
-    MlnEditor& editor = document_.EditedText;
+    MlnEditor& editor = document_->EditedText;
     SelectWord(start, length);
-    document_.UNDO.AddChange(editor.SelStart(), length, replacement, editor.SelText(), ChangeKind::Replacement);
-    document_.ReplaceAndColour(replacement);
+    document_->UNDO.AddChange(editor.SelStart(), length, replacement, editor.SelText(), ChangeKind::Replacement);
+    document_->ReplaceAndColour(replacement);
     control_.TextOffset += static_cast<std::ptrdiff_t>(replacement.size()) - static_cast<std::ptrdiff_t>(length);
   }
 
@@ -105,7 +111,7 @@ class Check {
   }
 
   Program& program_;
-  TEditor& document_;
+  std::shared_ptr<TEditor> document_;  // outlives its window
   MlnDictionary control_;
   WordNotFound& dialog_;
 };
@@ -113,13 +119,14 @@ class Check {
 }  // namespace
 
 void mn_checkspeeling_Click(Program& program) {
-  if (!program.ActiveDocument) return;
+  const bool isRunning = program.forms.Get<WordNotFound>().Dictionary != nullptr;
+  if (!program.ActiveDocument || isRunning) return;
   std::string language = GetMetaContent(program, "Language");
   if (language.empty()) {
     program.platform.windows.ShowModal(program.forms.Get<SelectLanguage>());
     if (program.ActiveDocument) language = GetMetaContent(program, "Language");
   }
-  if (language.empty()) return;
+  if (language.empty() || !program.ActiveDocument) return;
   Check(program, ExtensionOf(program, language)).Run();
 }
 

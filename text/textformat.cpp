@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <optional>
 
 #include "core/text.h"
@@ -118,9 +119,17 @@ std::string Grouped(std::string_view digits) {
   return text;
 }
 
+// A half is rounded upwards as people see it: 2.675 lies a little lower in binary, and its last bits lift it. A number that fills
+// all bits has none to spare.
+double WithHalvesLifted(double magnitude, int decimals) {
+  constexpr double kBitsToSpare = 1e13;
+  const bool fits = magnitude * std::pow(10, decimals) < kBitsToSpare;
+  return fits ? magnitude * (1 + 2 * std::numeric_limits<double>::epsilon()) : magnitude;
+}
+
 std::string DigitsOf(double magnitude, const Places& places) {
   std::array<char, 400> buffer{};  // the largest number has 309 digits in front of the mark
-  std::snprintf(buffer.data(), buffer.size(), "%.*f", places.mostDecimals, magnitude);
+  std::snprintf(buffer.data(), buffer.size(), "%.*f", places.mostDecimals, WithHalvesLifted(magnitude, places.mostDecimals));
   const std::string_view number = buffer.data();
   const std::size_t mark = std::min(number.find('.'), number.size());
   std::string whole(number.substr(0, mark));

@@ -17,11 +17,7 @@ WordNotFound::WordNotFound(Program& program) : Form("WordNotFound", "Brak słowa
   Change.OnChange = [this] {
     if (Change.Text() == kNoProposal) Change.SetText(LowerCase(program_.DialogResult));
   };
-  Change.OnKeyDown = [this](KeyPress& press) {
-    if (press.code != key::kEnter || Change.Text().empty()) return;
-    press.code = 0;
-    Command4.UserClicks();
-  };
+  Change.OnKeyDown = Similar.OnKeyDown = [this](KeyPress& press) { ChangeOnEnter(press); };
   Similar.OnChange = [this] { Change.SetText(Similar.SelectedRow()); };
   Similar.OnDblClick = [this] { Command4.UserClicks(); };
   Command4.OnClick = [this] {
@@ -72,6 +68,13 @@ void WordNotFound::ShowProposals() {
     Change.SetText(LowerCase(program_.DialogResult));
   }
   Similar.AddItems(Dictionary->Similar(program_.DialogResult));
+}
+
+// Once there is a word to take, Enter takes it; else it is left to the button of the form.
+void WordNotFound::ChangeOnEnter(KeyPress& press) {
+  if (press.code != key::kEnter || Change.Text().empty()) return;
+  press.code = 0;
+  Command4.UserClicks();
 }
 
 void WordNotFound::Choose(WordChoice choice) {

@@ -31,6 +31,7 @@ class WordNotFound : public Form {
  private:
   void Form_Load();
   void ShowProposals();
+  void ChangeOnEnter(KeyPress& press);
   void Choose(WordChoice choice);
   Program& program_;
 };

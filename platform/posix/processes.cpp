@@ -9,6 +9,8 @@
 #include <cctype>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <system_error>
 #include <thread>
 
@@ -125,13 +127,34 @@ std::string ProgramOf(std::uint64_t process) {
   return name;
 }
 
+// The system gives the same ids again and again, so the number has the id in its lowest 22 bits and above them 41 bits made of the
+// moments when the machine and the process were started. 0 when there is no such process.
+constexpr int kIdBits = 22;
+constexpr std::uint64_t kLargestId = (std::uint64_t{1} << kIdBits) - 1, kLargestMark = (std::uint64_t{1} << 41) - 1;
+
+std::uint64_t NumberOf(std::uint64_t id) {
+  constexpr int kFieldsBetween = 19;  // of the line, from the ")" behind the program's name to the time of its start
+  std::ifstream file("/proc/" + std::to_string(id) + "/stat"), boot("/proc/sys/kernel/random/boot_id");
+  std::string mark, line, time;
+  std::getline(boot, mark);
+  std::getline(file, line);
+  const std::size_t name = line.rfind(')');
+  if (name == std::string::npos) return 0;
+  std::istringstream fields(line.substr(name + 1));
+  for (int i = 0; i <= kFieldsBetween; ++i) fields >> time;
+  if (!fields) return 0;
+  std::uint64_t hash = 14695981039346656037u;
+  for (const char character : mark + time) hash = (hash ^ static_cast<unsigned char>(character)) * 1099511628211u;
+  return (hash & kLargestMark) << kIdBits | id;
+}
+
 }  // namespace
 
-std::uint64_t OwnProcess() { return static_cast<std::uint64_t>(::getpid()); }
+std::uint64_t OwnProcess() { return NumberOf(static_cast<std::uint64_t>(::getpid())); }
 
 bool IsRunningMorlan7(std::uint64_t process) {
-  const std::string own = ProgramOf(OwnProcess()), other = ProgramOf(process);
-  return !other.empty() && other == own;
+  const std::uint64_t id = process & kLargestId;
+  return process != 0 && NumberOf(id) == process && ProgramOf(id) == ProgramOf(static_cast<std::uint64_t>(::getpid()));
 }
 
 PosixProcesses::PosixProcesses(Files& files) : files_(files) {}

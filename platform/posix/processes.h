@@ -9,9 +9,9 @@ namespace morlan {
 
 class Files;
 
-// The number of this process.
+// A number for this process that no other has had, nor will have after the machine was started again.
 std::uint64_t OwnProcess();
-// Whether the process of that number is this program, started by anyone.
+// Whether the process of that number is this program, started by anyone, and still runs.
 bool IsRunningMorlan7(std::uint64_t process);
 
 class PosixProcesses : public Processes {

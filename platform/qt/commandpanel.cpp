@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view kGeneralToolbar = "Toolbar0";
 // The buttons that choose one of the tag lists, and those that insert from it, stand beside the tag list.
 constexpr std::string_view kTagListToolbars[] = {"Toolbar10", "Toolbar7"};
+constexpr std::string_view kMacroToolbar = "Toolbar16";
 constexpr int kMargin = 6, kSpacing = 6;
 
 bool HasUse(const ComboBox& box) { return box.OnChange || box.OnClick || box.OnKeyDown; }
@@ -40,7 +41,7 @@ CommandPanel::CommandPanel(Morlan& frame, Files& files, QWidget* parent)
   toolbarLine_ = new QWidget(this);
   toolbarRow_ = new QHBoxLayout(toolbarLine_);
   toolbarRow_->setContentsMargins(kMargin, 3, kMargin, 4);
-  toolbarRow_->setSpacing(0);
+  toolbarRow_->setSpacing(kSpacing);
   toolbarRow_->addStretch(1);
   column->addWidget(toolbarLine_);
   for (TabLine& line : tabLines_) ShowTabs(line);
@@ -55,25 +56,22 @@ QWidget* CommandPanel::MakeFirstLine() {
   row->setSpacing(kSpacing);
   if (ToolBar* general = ToolbarNamed(kGeneralToolbar)) row->addWidget(ToolbarWidget(*general, line));
   row->addWidget(MakeSeparator(line));
-  AddCombo(*row, frame_.tags, QStringLiteral("Lista znaczników"), 22);
+  row->addWidget(MakeCombo(frame_.tags, QStringLiteral("Lista znaczników"), 22));
   for (const std::string_view name : kTagListToolbars)
     if (ToolBar* toolBar = ToolbarNamed(name); toolBar && toolBar->HasVisibleItems()) row->addWidget(ToolbarWidget(*toolBar, line));
-  AddCombo(*row, frame_.Combo1, QStringLiteral("Style"), 14);
-  AddCombo(*row, frame_.makro, QStringLiteral("Makra"), 14);
+  // Nothing to choose from until a command listens to it.
+  if (HasUse(frame_.Combo1)) row->addWidget(MakeCombo(frame_.Combo1, QStringLiteral("Style"), 14));
   row->addStretch(1);
   return line;
 }
 
-// A combo box that nothing listens to has no use yet and stays away.
-void CommandPanel::AddCombo(QHBoxLayout& line, ComboBox& box, const QString& name, int widthInCharacters) {
-  const bool tagList = &box == &frame_.tags;
-  if (!tagList && !HasUse(box)) return;
+QWidget* CommandPanel::MakeCombo(ComboBox& box, const QString& name, int widthInCharacters) {
   box.WidthInCharacters = widthInCharacters;
   combos_.push_back(BindComboBox(box, context_));
   QWidget* widget = combos_.back()->Widget();
   widget->setAccessibleName(name);
   if (widget->toolTip().isEmpty()) widget->setToolTip(name);
-  line.addWidget(widget);
+  return widget;
 }
 
 FlatTabBar* CommandPanel::MakeTabBar(Tabs& tabs) {
@@ -121,6 +119,13 @@ void CommandPanel::ShowToolbars() {
   if (!toolbars_.contains(wanted)) toolbarRow_->insertWidget(0, ToolbarWidget(*shown, toolbarLine_));
   for (const auto& [name, view] : toolbars_)
     if (view->Widget()->parentWidget() == toolbarLine_) view->Widget()->setVisible(name == wanted);
+  ShowMacroList(wanted == kMacroToolbar);
+}
+
+// The macros to choose from stand in front of the buttons that run them.
+void CommandPanel::ShowMacroList(bool visible) {
+  if (visible && !macroList_) toolbarRow_->insertWidget(0, macroList_ = MakeCombo(frame_.makro, QStringLiteral("Makra"), 24));
+  if (macroList_) macroList_->setVisible(visible);
 }
 
 QWidget* CommandPanel::ToolbarWidget(ToolBar& toolBar, QWidget* parent) {

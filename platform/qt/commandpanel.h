@@ -29,9 +29,10 @@ class CommandPanel : public QWidget {
 
   QWidget* MakeFirstLine();
   FlatTabBar* MakeTabBar(Tabs& tabs);
-  void AddCombo(QHBoxLayout& line, ComboBox& box, const QString& name, int widthInCharacters);
+  QWidget* MakeCombo(ComboBox& box, const QString& name, int widthInCharacters);
   void ShowTabs(TabLine& line);
   void ShowToolbars();
+  void ShowMacroList(bool visible);
   QWidget* ToolbarWidget(ToolBar& toolBar, QWidget* parent);
   ToolBar* ToolbarNamed(std::string_view name) const;
 
@@ -39,6 +40,7 @@ class CommandPanel : public QWidget {
   BindingContext context_;
   QWidget* toolbarLine_;
   QHBoxLayout* toolbarRow_;
+  QWidget* macroList_ = nullptr;  // made with the toolbar of macros
   std::vector<TabLine> tabLines_;
   std::map<std::string, std::unique_ptr<ToolBarView>> toolbars_;  // made when they are first shown
   std::vector<std::unique_ptr<ControlBinding>> combos_;

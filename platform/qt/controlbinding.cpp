@@ -68,9 +68,17 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
     if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) control_.UserLeaves();
   }
   if (event->type() == QEvent::ContextMenu && control_.OnRightClick) return control_.UserRightClicks();
-  if (event->type() != QEvent::KeyPress || !SwallowsKey(event)) return false;
-  event->accept();
+  if (event->type() != QEvent::KeyPress) return false;
+  const bool swallowed = SwallowsKey(event);
+  if (!swallowed && !IsForWindow(*static_cast<QKeyEvent*>(event))) return false;
+  event->setAccepted(swallowed);
   return true;
+}
+
+// A list-only box would take Ctrl and a letter for the search of a row, and no shortcut would work in it.
+bool ControlBinding::IsForWindow(const QKeyEvent& event) const {
+  if (control_.GetKind() != Control::Kind::Combo || !(event.modifiers() & Qt::ControlModifier)) return false;
+  return !static_cast<const ComboBox&>(control_).IsEditable() && !event.text().isEmpty();
 }
 
 bool ControlBinding::SwallowsKey(QEvent* event) {

@@ -13,6 +13,7 @@
 #include "platform/forms/controls.h"
 
 class QButtonGroup;
+class QKeyEvent;
 
 namespace morlan {
 
@@ -43,6 +44,7 @@ class ControlBinding : public QObject, public ControlView {
 
  private:
   bool SwallowsKey(QEvent* event);
+  bool IsForWindow(const QKeyEvent& event) const;
   Control& control_;
   QWidget* widget_;
   void FollowCaption();

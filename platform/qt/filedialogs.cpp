@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include "core/paths.h"
 #include "core/text.h"
@@ -13,6 +15,17 @@ namespace morlan {
 namespace {
 
 QString Native(Files& files, std::string_view path) { return path.empty() ? QString() : QString::fromStdString(files.ToNative(path)); }
+
+// Sizes, kinds and dates are told in full; the names get what is left.
+void SetUpColumns(QFileDialog& dialog) {
+  const int character = dialog.fontMetrics().averageCharWidth();
+  dialog.resize(dialog.sizeHint().expandedTo(QSize(character * 110, character * 66)));
+  auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (!files) return;
+  files->header()->setStretchLastSection(false);
+  files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
 
 std::string Chosen(Files& files, const QFileDialog& dialog) {
   const QStringList names = dialog.selectedFiles();
@@ -45,6 +58,7 @@ std::optional<std::string> AskForFile(const FileRequest& request, Files& files, 
   // The question is put here, since only here the name with its extension is known.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setNameFilters(QtFilters(request.filter));
+  SetUpColumns(dialog);
   if (!request.fileName.empty()) dialog.selectFile(ToQt(request.fileName));
   while (dialog.exec() == QDialog::Accepted) {
     const std::string path = Chosen(files, dialog);
@@ -58,6 +72,7 @@ std::optional<std::string> AskForDirectory(std::string_view title, std::string_v
   QFileDialog dialog(parent, ToQt(title), Native(files, directory));
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
+  SetUpColumns(dialog);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const std::string path = Chosen(files, dialog);
   return path.empty() ? std::nullopt : std::optional(path);

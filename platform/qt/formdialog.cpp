@@ -10,6 +10,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "platform/qt/formgeometry.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr int kMargin = 12, kSpacing = 8, kColumnSpacing = 16, kButtonWidth = 88;
 constexpr int kEvenNumerator = 3, kEvenDenominator = 2;  // how much wider the widest group may be
 constexpr int kTitleRoom = 110;                          // what a window's title shares its bar with
+constexpr int kRowsAtOnce = 20;                          // of a scrolled area, which shows fewer
 constexpr int kLabelColumn = 0, kControlColumn = 1, kCompanionColumn = 2, kColumns = 3;
 
 int StretchIn(const QBoxLayout& box, const Layout& part) {
@@ -51,6 +53,13 @@ void MakeEven(const QHBoxLayout& row) {
 bool WantsRoomAbove(const Layout& rows, const Layout& child) {
   return child.kind == Layout::Kind::Buttons && &child == &rows.children.back() && !GrowsDownwards(rows);
 }
+
+bool HoldsFieldsAlone(const Layout& rows) {
+  return std::all_of(rows.children.begin(), rows.children.end(),
+                     [](const Layout& child) { return child.kind == Layout::Kind::Field && !IsTall(*child.control); });
+}
+
+QString LabelOf(const Layout& field) { return WithoutMnemonic(ToQt(field.caption.empty() ? field.control->Caption() : field.caption)); }
 
 }  // namespace
 
@@ -225,17 +234,51 @@ void FormDialog::AddPages(QBoxLayout& box, const Layout& pages) {
 void FormDialog::AddScrolled(QBoxLayout& box, const Layout& rows) {
   auto* area = new ScrolledRows(this);
   area->Grid().setSpacing(kSpacing);
-  FillRows(area->Grid(), rows);
-  area->Grid().setRowStretch(area->Grid().rowCount(), 1);
+  if (HoldsFieldsAlone(rows)) {
+    AddRowsSeenFirst(*area, rows);
+  } else {
+    FillRows(area->Grid(), rows);
+    area->Grid().setRowStretch(area->Grid().rowCount(), 1);
+  }
   area->Fit();
   box.addWidget(area, 1);
+  areas_.push_back(area);
+}
+
+// A dialog of a hundred fields would take long to come up, though a dozen are seen. Its columns get the widths that they have
+// when all rows are there.
+void FormDialog::AddRowsSeenFirst(ScrolledRows& area, const Layout& rows) {
+  const auto isCompanied = [](const Layout& field) { return field.companion != nullptr; };
+  const auto withCompanion = std::find_if(rows.children.begin(), rows.children.end(), isCompanied) - rows.children.begin();
+  std::vector<std::pair<int, Layout>> others;
+  int row = 0, widest = 0;
+  for (const Layout& field : rows.children) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(LabelOf(field)));
+    if (row < kRowsAtOnce || row == withCompanion)
+      AddField(area.Grid(), row, field);
+    else
+      others.emplace_back(row, field);
+    ++row;
+  }
+  area.Grid().setRowStretch(row, 1);
+  area.Grid().setColumnMinimumWidth(kLabelColumn, widest);
+  area.Grid().setColumnStretch(kControlColumn, 1);
+  if (others.empty()) return;
+  area.fill = [this, &area, others = std::move(others)] {
+    context_.parent = area.widget();
+    for (const auto& [place, field] : others) AddField(area.Grid(), place, field);
+    context_.parent = this;
+    SetTabOrder();
+    PartMnemonics(*this);
+  };
 }
 
 void FormDialog::SetTabOrder() {
   QWidget* before = nullptr;
   for (Control* control : InOrder(form_.layout)) {
-    QWidget* widget = WidgetOf(control);
-    if (!widget) continue;
+    const auto found = bindings_.find(control);
+    if (found == bindings_.end() || !found->second) continue;
+    QWidget* widget = found->second->Widget();
     if (before) QWidget::setTabOrder(before, widget);
     before = widget;
   }
@@ -291,6 +334,8 @@ void FormDialog::FormHidden() {
 
 void FormDialog::FocusMoved(Control& control) {
   wantedFocus_ = &control;
+  if (built_ && !bindings_.contains(&control))
+    for (ScrolledRows* area : areas_) area->FillNow();
   const auto found = bindings_.find(&control);
   if (found != bindings_.end() && found->second) found->second->Widget()->setFocus();
 }

@@ -16,6 +16,7 @@ class QGridLayout;
 
 namespace morlan {
 
+class ScrolledRows;
 class WindowPlaces;
 
 class FormDialog : public QDialog, private FormView {
@@ -51,6 +52,7 @@ class FormDialog : public QDialog, private FormView {
   void AddGroup(QBoxLayout& box, const Layout& group);
   void AddPages(QBoxLayout& box, const Layout& pages);
   void AddScrolled(QBoxLayout& box, const Layout& rows);
+  void AddRowsSeenFirst(ScrolledRows& area, const Layout& rows);
   void AddInlineField(QBoxLayout& box, const Layout& field);
   void SetTabOrder();
   void RestoreSize();
@@ -61,6 +63,7 @@ class FormDialog : public QDialog, private FormView {
   BindingContext context_;
   std::map<const Control*, std::unique_ptr<ControlBinding>> bindings_;
   FormTimers timers_;
+  std::vector<ScrolledRows*> areas_;
   Control* wantedFocus_ = nullptr;
   bool built_ = false;
 };

@@ -63,6 +63,7 @@ constexpr MessageSign kSigns[] = {
     {Icon::Information, 0x2f6fd0, u'i'},
 };
 constexpr int kSignSize = 36;
+constexpr int kInputInCharacters = 56;
 
 QPixmap PictureOf(const MessageSign& sign, qreal ratio) {
   QPixmap picture(QSize(kSignSize, kSignSize) * ratio);
@@ -108,6 +109,8 @@ std::optional<std::string> AskInput(std::string_view prompt, std::string_view ti
   dialog.setTextValue(ToQt(text));
   dialog.setOkButtonText(QStringLiteral("Ok"));
   dialog.setCancelButtonText(QStringLiteral("&Anuluj"));
+  // Room for the title, and for a path.
+  dialog.resize(dialog.sizeHint().expandedTo(QSize(dialog.fontMetrics().averageCharWidth() * kInputInCharacters, 0)));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return FromQt(dialog.textValue());
 }

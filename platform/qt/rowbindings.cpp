@@ -1,10 +1,12 @@
 // Lists and combo boxes.
 #include <QComboBox>
+#include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -17,7 +19,7 @@
 namespace morlan {
 namespace {
 
-constexpr int kRowRoom = 4, kWidestInCharacters = 60;
+constexpr int kRowRoom = 4, kWidestInCharacters = 60, kFieldRoom = 2;
 
 // Rows with some air between them.
 class RoomyRows : public QStyledItemDelegate {
@@ -120,21 +122,47 @@ class ListBinding : public ControlBinding {
   bool rowsChanged_ = false, showing_ = false, telling_ = false, selectedByThisClick_ = false;
 };
 
+// A box whose list of rows is made when it opens: a dialog may have a hundred boxes of which none is ever opened. Its
+// width is asked of the field alone; the toolkit's ways to set a width make the list.
+class LazyBox : public QComboBox {
+ public:
+  LazyBox(int widthInCharacters, QWidget* parent) : QComboBox(parent), widthInCharacters_(widthInCharacters) {}
+  QSize sizeHint() const override {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize text(fontMetrics().horizontalAdvance(QLatin1Char('X')) * widthInCharacters_, fontMetrics().height() + kFieldRoom);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+  void showPopup() override {
+    if (!roomy_) setItemDelegate(roomy_ = new RoomyRows(this));
+    QComboBox::showPopup();
+  }
+
+ private:
+  int widthInCharacters_;
+  RoomyRows* roomy_ = nullptr;
+};
+
+// The box would make a completer of its own for a field without one.
+QLineEdit* FieldWithoutCompleter(QWidget* parent) {
+  auto* field = new QLineEdit(parent);
+  field->setCompleter(new QCompleter(field));
+  return field;
+}
+
 class ComboBinding : public ControlBinding {
  public:
   ComboBinding(ComboBox& box, QComboBox* widget) : ControlBinding(box, widget), box_(box), widget_(widget), model_(box) {
-    widget->setEditable(box.IsEditable());
     widget->setModel(&model_);
-    widget->setInsertPolicy(QComboBox::NoInsert);
-    widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    widget->setMinimumContentsLength(box.WidthInCharacters);
-    if (IsNarrow(box)) widget->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    widget->setMaxVisibleItems(20);
-    widget->setItemDelegate(new RoomyRows(widget));
     if (box.IsEditable()) {
+      widget->setLineEdit(FieldWithoutCompleter(widget));
       widget->setCompleter(nullptr);
       connect(widget->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { box_.UserSets(FromQt(text)); });
     }
+    widget->setInsertPolicy(QComboBox::NoInsert);
+    if (IsNarrow(box)) widget->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    widget->setMaxVisibleItems(20);
     connect(widget, &QComboBox::activated, this, [this](int row) { box_.UserSelects(row); });
     rowsChanged_ = true;
     Synchronise();
@@ -173,7 +201,7 @@ std::unique_ptr<ControlBinding> BindListBox(ListBox& list, BindingContext& conte
 }
 
 std::unique_ptr<ControlBinding> BindComboBox(ComboBox& box, BindingContext& context) {
-  return std::make_unique<ComboBinding>(box, new QComboBox(context.parent));
+  return std::make_unique<ComboBinding>(box, new LazyBox(box.WidthInCharacters, context.parent));
 }
 
 }  // namespace morlan

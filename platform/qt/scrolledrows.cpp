@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QScrollBar>
+#include <QTimer>
+#include <utility>
 
 namespace morlan {
 namespace {
@@ -34,6 +36,24 @@ void ScrolledRows::Fit() {
     field->setFocusPolicy(Qt::StrongFocus);
     field->installEventFilter(this);
   }
+}
+
+void ScrolledRows::FillNow() {
+  if (!fill) return;
+  // Each row that is shown would have all of them laid out again.
+  grid_->setEnabled(false);
+  std::exchange(fill, nullptr)();
+  for (QWidget* field : widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+    if (!field->testAttribute(Qt::WA_WState_ExplicitShowHide)) field->show();
+  grid_->setEnabled(true);
+  // What asked for it in the meantime was not heard.
+  grid_->activate();
+  Fit();
+}
+
+bool ScrolledRows::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::Paint && !std::exchange(painted_, true)) QTimer::singleShot(0, this, [this] { FillNow(); });
+  return QScrollArea::viewportEvent(event);
 }
 
 bool ScrolledRows::eventFilter(QObject* watched, QEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QScrollArea>
+#include <functional>
 
 class QGridLayout;
 
@@ -11,14 +12,19 @@ class ScrolledRows : public QScrollArea {
  public:
   explicit ScrolledRows(QWidget* parent);
   QGridLayout& Grid() const { return *grid_; }
-  // To be called when the rows are all there.
+  // To be called when rows have come.
   void Fit();
+  // Adds the rows that are not seen at first. Called once: behind the first painting, or by FillNow.
+  std::function<void()> fill;
+  void FillNow();
 
  protected:
+  bool viewportEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QGridLayout* grid_;
+  bool painted_ = false;
 };
 
 }  // namespace morlan

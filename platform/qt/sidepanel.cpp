@@ -82,7 +82,10 @@ SidePanel::SidePanel(Morlan& frame, Files& files, QWidget* parent)
   lists_->setStretchFactor(0, 1);
   lists_->setStretchFactor(1, 2);
   column->addWidget(lists_, 1);
-  column->addWidget(AddCombo(frame.filetypes, QStringLiteral("Typ plików")));
+  QWidget* types = AddCombo(frame.filetypes, QStringLiteral("Typ plików"));
+  types->setSizePolicy(QSizePolicy::Expanding, types->sizePolicy().verticalPolicy());
+  types->setMaximumWidth(QWIDGETSIZE_MAX);
+  column->addWidget(types);
   ShowPath();
   setMinimumWidth(150);
   setVisible(frame.Menadzerplikow.Visible());

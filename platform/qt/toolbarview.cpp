@@ -26,8 +26,10 @@ void ToolBarView::ShowItems() {
     if (!button) continue;
     button->setVisible(items[i].visible);
     button->setEnabled(items[i].enabled);
-    button->setCheckable(items[i].pressed);
+    // In this order, since a button that can no longer be checked is not painted anew.
+    if (items[i].pressed) button->setCheckable(true);
     button->setChecked(items[i].pressed);
+    button->setCheckable(items[i].pressed);
   }
 }
 

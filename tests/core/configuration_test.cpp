@@ -171,13 +171,6 @@ TEST_F(Configuration, TellsItsSteps) {
             (std::vector<std::string>{"Zmiana konfiguracji...", "Gotowy", "dialog", std::string("Zapisuję konfigurację"_pl), "Gotowy"}));
 }
 
-TEST_F(Configuration, OpensFromTheToolbarToo) {
-  bool opened = false;
-  test.windows.modals.push_back([&](Form& form) { opened = form.Name() == "configuration" && form.Caption() == "Konfiguracja"; });
-  EXPECT_TRUE(program.commands.RunToolbar("Toolbar20", "config"));
-  EXPECT_TRUE(opened);
-}
-
 TEST_F(Configuration, BothHintsAreOnWhileTheirSwitchIsNotStored) {
   Store("Hint", "ShowList", "False");
   Cancel([](configuration& form) {

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
+#include "core/text.h"
 #include "platform/encoding.h"
 #include "tests/support/immediatefiles.h"
 #include "tests/support/memoryfiles.h"
@@ -120,6 +122,23 @@ TEST_F(SafetyStoreTest, TheOldestGoWhenAllIsTooLarge) {
   NextSecond();
   store.KeepLoaded("c:\\c.html", "mały"_pl.data());
   EXPECT_EQ(PathsOf(store.All()), (std::vector<std::string>{"c:\\c.html", "c:\\b.html"}));
+}
+
+TEST_F(SafetyStoreTest, TheOldestGoesWhenThereAreTooMany) {
+  store.KeepLoaded("c:\\stary.html", "x");
+  NextSecond();
+  for (std::size_t i = 0; i < SafetyStore::kMostTexts; ++i) store.KeepLoaded(Concat({"c:\\", std::to_string(i), ".html"}), "x");
+  const std::vector<std::string> paths = PathsOf(store.All());
+  EXPECT_EQ(paths.size(), SafetyStore::kMostTexts);
+  EXPECT_EQ(std::count(paths.begin(), paths.end(), "c:\\stary.html"), 0);
+}
+
+TEST_F(SafetyStoreTest, ARunIsKnownByItsWholeNumber) {
+  constexpr std::uint64_t kRun = 0x7FFFFFFFFFFFFFFE;
+  running = {1, kRun};
+  Other(kRun).KeepUnsaved("c:\\zywe.html", "1");
+  Other(kRun - 1).KeepUnsaved("c:\\zostawione.html", "2");
+  EXPECT_EQ(PathsOf(store.LeftBehind()), std::vector<std::string>{"c:\\zostawione.html"});
 }
 
 TEST_F(SafetyStoreTest, WhatNobodyHasSavedStaysHoweverLarge) {

@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QTreeView>
 
 #include "platform/qt/qttext.h"
 #include "tests/desktop/support/desktopfixture.h"
@@ -35,6 +36,21 @@ TEST_F(FileDialogTest, GivesThePathInTheProgramsForm) {
     TypeName(modal, QStringLiteral("nowa"));
   });
   EXPECT_EQ(AskForFile(Save(), files, nullptr), Path("work/nowa"));
+}
+
+TEST_F(FileDialogTest, TellsSizesAndDatesInFull) {
+  Write("work/strona.html", "x");
+  InNextModal([](QWidget& modal) {
+    auto* list = modal.findChild<QTreeView*>(QStringLiteral("treeView"));
+    ASSERT_TRUE(WaitFor([list] { return list->model()->rowCount(list->rootIndex()) == 1; }));
+    Settle();
+    for (int column = 1; column < list->model()->columnCount(list->rootIndex()); ++column) {
+      const QString text = list->model()->index(0, column, list->rootIndex()).data().toString();
+      EXPECT_GT(list->columnWidth(column), list->fontMetrics().horizontalAdvance(text)) << text.toStdString();
+    }
+    PressIn(modal, Qt::Key_Escape);
+  });
+  AskForFile(Save(), files, nullptr);
 }
 
 TEST_F(FileDialogTest, CancelGivesNothing) {

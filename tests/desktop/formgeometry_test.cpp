@@ -1,6 +1,7 @@
 // How a dialog shares its room among the parts of its layout.
 #include "platform/qt/formgeometry.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -18,7 +19,7 @@ namespace {
 
 struct GeometryForm : Form {
   TextBox dlugie{*this, "dlugie"}, krotkie{*this, "krotkie"};
-  ComboBox slowo{*this, "slowo"};
+  ComboBox slowo{*this, "slowo"}, wybor{*this, "wybor", ComboBox::Style::ListOnly};
   ListBox lista{*this, "lista"};
   OptionButton lewa{*this, "lewa", "Lewa", "strona"}, prawa{*this, "prawa", "Prawa", "strona", true};
   ColourBox kolor{*this, "kolor", "", RgbColour(200, 0, 0)};
@@ -106,6 +107,29 @@ TEST_F(FormGeometry, GroupsSideBySideAreOfOneWidthAndTheirRowsStayTogether) {
          EXPECT_EQ(groups[0]->height(), groups[1]->height());
          EXPECT_LT(Named<QWidget>(modal, "krotkie").geometry().top(), 60);
        });
+}
+
+TEST_F(FormGeometry, ABoxMakesItsListWhenItOpens) {
+  form.slowo.AddItems({"jeden", "dwa"});
+  Look(layout::Rows(form.slowo), [](QWidget& modal) {
+    auto& box = Named<QComboBox>(modal, "slowo");
+    EXPECT_TRUE(box.findChildren<QListView*>().isEmpty());
+    box.showPopup();
+    EXPECT_EQ(box.view()->model()->rowCount(), 2);
+    EXPECT_GT(box.view()->sizeHintForRow(0), box.fontMetrics().height());
+    box.hidePopup();
+    EXPECT_EQ(box.completer(), nullptr);
+  });
+}
+
+TEST_F(FormGeometry, TypingFindsARowOfABoxThatWasNeverOpened) {
+  form.wybor.AddItems({"jeden", "dwa", "trzy"});
+  Look(layout::Rows(form.wybor), [](QWidget& modal) {
+    auto& box = Named<QComboBox>(modal, "wybor");
+    TypeIn(box, QStringLiteral("t"));
+    EXPECT_EQ(box.currentText(), QStringLiteral("trzy"));
+  });
+  EXPECT_EQ(form.wybor.Text(), "trzy");
 }
 
 TEST_F(FormGeometry, TabStopsAtTheChosenOptionOfAGroup) {

@@ -1,5 +1,6 @@
 #include "platform/qt/mainwindow.h"
 
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QImage>
@@ -9,6 +10,7 @@
 #include <QMimeData>
 #include <QTabBar>
 #include <QUrl>
+#include <filesystem>
 
 #include "core/documents.h"
 #include "core/text.h"
@@ -75,7 +77,61 @@ TEST_F(MainWindowTest, AToolbarButtonWrapsTheSelection) {
 TEST_F(MainWindowTest, ButtonsWithoutACommandAreNotThere) {
   Start();
   EXPECT_EQ(Named<QWidget>(Window(), "Toolbar0").findChild<QToolButton*>(QStringLiteral("tools")), nullptr);
-  EXPECT_EQ(Window().findChild<QWidget*>(QStringLiteral("makro")), nullptr);
+  EXPECT_EQ(Window().findChild<QWidget*>(QStringLiteral("Combo1")), nullptr);
+}
+
+QTabBar& ShowToolbar(MainWindow& window, const QString& title) {
+  auto& tabs = Named<QTabBar>(window, "objectsmenu");
+  tabs.setCurrentIndex(static_cast<int>(Titles(tabs).indexOf(title)));
+  return tabs;
+}
+
+TEST_F(MainWindowTest, MacrosAreChosenBesideTheirToolbar) {
+  std::filesystem::create_directories(folder.path / "program/MAKRO");
+  Write("program/MAKRO/a.mac", "1");
+  Write("program/MAKRO/b.mac", "2");
+  Start();
+  QTabBar& tabs = ShowToolbar(Window(), QStringLiteral("Makra"));
+  auto& macros = Named<QComboBox>(Window(), "makro");
+  EXPECT_TRUE(macros.isVisible());
+  EXPECT_FALSE(macros.accessibleName().isEmpty());
+  PressIn(macros, Qt::Key_B);
+  EXPECT_EQ(macros.currentText(), QStringLiteral("b"));
+  ToolButton("Toolbar16", "run").click();
+  EXPECT_EQ(Text(), "2");
+  tabs.setCurrentIndex(0);
+  EXPECT_FALSE(macros.isVisible());
+}
+
+TEST_F(MainWindowTest, ShortcutsWorkInAListOfMacros) {
+  Start();
+  TypeIn(Editor(), QStringLiteral("ab"));
+  ShowToolbar(Window(), QStringLiteral("Makra"));
+  PressIn(Named<QWidget>(Window(), "makro"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Text(), "a");
+}
+
+class PaintCounter : public QObject {
+ public:
+  int count = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+};
+
+TEST_F(MainWindowTest, AButtonThatComesUpAgainIsPaintedSo) {
+  Start();
+  QToolButton& before = ToolButton("Toolbar10", "tags1");
+  ASSERT_TRUE(before.isChecked());
+  ASSERT_TRUE(WaitFor([&] { return Window().isActiveWindow(); }));
+  Settle();
+  PaintCounter paints;
+  before.installEventFilter(&paints);
+  ToolButton("Toolbar10", "user").click();
+  Settle();
+  EXPECT_FALSE(before.isChecked());
+  EXPECT_GT(paints.count, 0);
 }
 
 TEST_F(MainWindowTest, EveryButtonHasAPictureAndAToolTip) {

@@ -45,6 +45,15 @@ TEST(Messages, TellWhichButtonWasPressed) {
   EXPECT_EQ(AskMessage({.text = "?", .buttons = Buttons::YesNo}, nullptr), Answer::Yes);
 }
 
+TEST(Messages, TheInputBoxHasRoomForItsTitleAndForAPath) {
+  InNextModal([](QWidget& modal) {
+    const QString path = QStringLiteral("/home/ala/strony/rodzina/zdjecia.html");
+    EXPECT_GE(modal.findChild<QLineEdit*>()->width(), modal.fontMetrics().horizontalAdvance(path));
+    PressIn(modal, Qt::Key_Escape);
+  });
+  AskInput("?", "Krótko"_pl, "", nullptr);
+}
+
 TEST(Messages, TheInputBoxGivesTheTextOrNothing) {
   InNextModal([](QWidget& modal) {
     EXPECT_EQ(modal.windowTitle(), QStringLiteral("Tytuł"));

@@ -9,12 +9,15 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QWheelEvent>
+#include <algorithm>
+#include <utility>
 
 #include "core/text.h"
 #include "platform/posix/profile.h"
 #include "platform/qt/editorpages.h"
 #include "platform/qt/editorview.h"
 #include "platform/qt/qttext.h"
+#include "tags/properties.h"
 #include "tests/desktop/support/desktopfixture.h"
 
 namespace morlan {
@@ -99,6 +102,46 @@ TEST_F(PropertySheetWindow, ALongSheetFitsASmallScreenAndFollowsTheKeyboard) {
     ASSERT_TRUE(area.isAncestorOf(field)) << ToUtf8(FromQt(field->objectName()));
     EXPECT_TRUE(area.viewport()->rect().contains(QRect(field->mapTo(area.viewport(), QPoint()), field->size())));
   });
+}
+
+TEST_F(PropertySheetWindow, RowsThatAreNotSeenAtFirstComeBehindThePainting) {
+  Open("<input maxlength=7 ondrop=\"f()\">", 5);
+  InSheet([&](QWidget& modal) {
+    const auto& sheet = program.forms.Get<Properties>();
+    const auto fieldOf = [&](const SheetRow& row) { return modal.findChild<QWidget*>(ToQt(row.value->Name())); };
+    const auto isShown = [&](const SheetRow& row) { return fieldOf(row) && !fieldOf(row)->isHidden(); };
+    ASSERT_GT(sheet.attributes.size(), 40u);
+    EXPECT_TRUE(WaitFor([&] { return isShown(sheet.attributes.back()); }));
+    EXPECT_TRUE(std::all_of(sheet.attributes.begin(), sheet.attributes.end(), isShown));
+    EXPECT_LT(fieldOf(sheet.attributes[19])->geometry().bottom(), fieldOf(sheet.attributes[20])->geometry().top());
+    modal.findChild<QTabWidget*>()->setCurrentIndex(1);
+    ASSERT_GT(sheet.events.size(), 40u);
+    EXPECT_TRUE(WaitFor([&] { return isShown(sheet.events.back()); }));
+  });
+}
+
+TEST_F(PropertySheetWindow, TabGoesFromTheFirstRowsToThoseThatCameLater) {
+  Open("<input>", 5);
+  InSheet([&](QWidget& modal) {
+    const auto& sheet = program.forms.Get<Properties>();
+    const auto fieldOf = [&](std::size_t row) { return modal.findChild<QWidget*>(ToQt(sheet.attributes[row].value->Name())); };
+    ASSERT_TRUE(WaitFor([&] { return fieldOf(20) != nullptr; }));
+    ASSERT_EQ(sheet.attributes[19].dialog, nullptr);
+    fieldOf(19)->setFocus();
+    PressIn(*fieldOf(19), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), fieldOf(20));
+  });
+}
+
+TEST_F(PropertySheetWindow, AFieldFarDownCanTakeTheFocusAtOnce) {
+  Open("<input>", 5);
+  Properties& sheet = program.forms.Get<Properties>();
+  const auto load = std::exchange(sheet.OnLoad, nullptr);
+  sheet.OnLoad = [&] {
+    load();
+    sheet.firstFocus = sheet.attributes.back().value.get();
+  };
+  InSheet([&](QWidget&) { EXPECT_EQ(QApplication::focusWidget()->objectName(), ToQt(sheet.attributes.back().value->Name())); });
 }
 
 TEST_F(PropertySheetWindow, AFieldWithoutTheFocusLeavesTheWheelToTheRows) {

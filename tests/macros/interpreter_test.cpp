@@ -120,7 +120,8 @@ TEST_F(Interpreter, AFileWithoutACharsetIsInsertedWithAWarning) {
   test.Write("work\\plik.txt", "raz");
   EXPECT_EQ(Run("{insert type=\"file\" filetype=\"text\" filename=\"plik.txt\"}"),
             "<-- wstawiony plik : plik.txt-->\r\n<PRE>\r\nraz\r\n</PRE>\r\n<-- wstawiony plik -->");
-  EXPECT_EQ(Messages(), std::vector<std::string>{Message("Nie zdefiniowany parametr CHARSET", "Ostrzeżenie Makro! {INSERT}"_pl)});
+  EXPECT_EQ(Messages(),
+            std::vector<std::string>{Message("Nie zdefiniowany parametr CHARSET", "Ostrzeżenie Makro! {INSERT}"_pl, "warning")});
 }
 
 TEST_F(Interpreter, AFileNeedsItsNameAndType) {
@@ -214,7 +215,8 @@ TEST_F(Interpreter, ComparesTextsByEveryMethod) {
   for (const Row& row :
        {Row{"equ", false, true, false}, Row{"equal", false, true, false}, Row{"=", false, true, false}, Row{"bigger", false, false, true},
         Row{">", false, false, true}, Row{"lower", true, false, false}, Row{"<", true, false, false}, Row{"<=", true, true, false},
-        Row{">=", false, true, true}, Row{"=>", false, true, true}, Row{"EQU", false, true, false}, Row{"inna", false, false, false}}) {
+        Row{"=<", true, true, false}, Row{">=", false, true, true}, Row{"=>", false, true, true}, Row{"EQU", false, true, false},
+        Row{"inna", false, false, false}}) {
     const auto holds = [&](std::string_view first, std::string_view second) {
       return Run(Concat({"{if text1=\"", first, "\" text2=\"", second, "\" method=\"", row.method, "\"}t{else}n{endif}"})) == "t";
     };
@@ -238,6 +240,15 @@ TEST_F(Interpreter, AFalseConditionWithoutAnEndEndsTheScan) { EXPECT_EQ(Run("a{i
 
 TEST_F(Interpreter, AnElseOfATrueConditionWithoutAnEndEndsTheScan) {
   EXPECT_EQ(Run("{if text1=\"a\" text2=\"a\"}b{else}c{print text=\"d\"}"), "b");
+}
+
+TEST_F(Interpreter, ALongMacroEndsAtSuchAnElseToo) {
+  EXPECT_EQ(Run(Concat({std::string(100000, 'x'), "{if text1=\"a\" text2=\"a\"}b{else}c{print text=\"d\"}"})),
+            std::string(100000, 'x') + "b");
+}
+
+TEST_F(Interpreter, TheNearerBranchIsTaken) {
+  EXPECT_EQ(Run("{if text1=\"a\" text2=\"b\"}1{endif}2{if text1=\"a\" text2=\"a\"}3{else}4{endif}5"), "235");
 }
 
 TEST_F(Interpreter, ElseAndEndIfAloneDoNothing) { EXPECT_EQ(Run("a{else}b{endif}c"), "abc"); }
@@ -302,6 +313,14 @@ TEST_F(Interpreter, EscStopsARunWithoutEnd) {
   EXPECT_EQ(Run("{for name=\"i\" from=\"1\" to=\"2000000000\"}\r\nx{next}", "nietkniety"), "nietkniety");
   EXPECT_EQ(Messages(), std::vector<std::string>{});
   EXPECT_EQ(turns, 1001);
+}
+
+TEST_F(Interpreter, AVariableThatDoublesWithoutEndIsFatal) {
+  const std::string macro =
+      "{var name=\"a\"}x{/var}{for name=\"i\" from=\"1\" to=\"2000000000\"}\r\n{var name=\"a\"}{print text=\"%%a\"}{/var}{next}";
+  EXPECT_EQ(Run(macro, "nietkniety"), "nietkniety");
+  EXPECT_EQ(Messages(), std::vector<std::string>{Message("Podczas wykomywania makrodefinicji występił błąd krytyczny. Makro przerwane"_pl,
+                                                         "Błąd krytyczny makro!"_pl)});
 }
 
 TEST_F(Interpreter, TheStatusLineTellsOfARun) {

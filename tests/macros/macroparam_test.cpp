@@ -21,6 +21,10 @@ TEST(MacroParametersOf, BrokenMacrosHaveWhatCanBeRead) {
     EXPECT_TRUE(MacroParametersOf(text).size() <= 1) << text;
 }
 
+TEST(MacroParametersOf, AQuestionThatNamesItsValueInThePromptIsLeftOut) {
+  EXPECT_TRUE(MacroParametersOf("{inputbox prompt=\"Podaj value\" value=\"5\"}").empty());
+}
+
 TEST(WithMacroParameters, ChangesTheValuesAlone) {
   std::vector<MacroParameter> parameters = MacroParametersOf(kMacro);
   EXPECT_EQ(WithMacroParameters(kMacro, parameters), kMacro);
@@ -103,6 +107,18 @@ TEST_F(MacroParamTest, AnOpenMacroShowsTheNewText) {
     form.Command2.UserClicks();
   });
   EXPECT_EQ(test.Text(), "{var name=\"a\"}7{/var}{print text=\"%%a\"}");
+}
+
+TEST_F(MacroParamTest, ChangesOfTheOldTextCannotSpoilTheNewOne) {
+  OpenDocument(test.program, test.Path("program\\MAKRO\\proba.mac"));
+  test.program.ActiveDocument->InsertAtCaret("<!--");
+  test.program.commands.RunMenu("xmn_save");
+  Show([](MacroParam& form) {
+    form.Wartosc.UserSets("7");
+    form.Command2.UserClicks();
+  });
+  test.program.commands.RunMenu("xmn_undo");
+  EXPECT_EQ(test.Text(), "<!--{var name=\"a\"}7{/var}{print text=\"%%a\"}");
 }
 
 TEST_F(MacroParamTest, AnOpenMacroWithChangesIsLeftAlone) {

@@ -31,8 +31,8 @@ class MacroTest : public testing::Test {
       if (line.starts_with("message ")) messages.push_back(line);
     return messages;
   }
-  static std::string Message(std::string_view text, std::string_view title) {
-    return Concat({"message ", Quoted(text), " ", Quoted(title), " stop ok"});
+  static std::string Message(std::string_view text, std::string_view title, std::string_view icon = "stop") {
+    return Concat({"message ", Quoted(text), " ", Quoted(title), " ", icon, " ok"});
   }
   // A macro that fails: its own message, the message of the end, and an untouched document.
   void ExpectFatal(std::string_view macro, std::string_view text, std::string_view title) {

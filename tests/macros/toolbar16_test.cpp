@@ -70,14 +70,15 @@ TEST_F(Toolbar16, AMacroThatIsThereIsNotMadeAgain) {
   test.Write("program\\MAKRO\\a.mac", "<HR>");
   test.windows.inputs = {"a"};
   Press("new");
-  EXPECT_EQ(test.Asked().back(), "message \"Makro o podanej nazwie już istnieje !\" \"Makro\" warning ok");
+  EXPECT_EQ(test.Asked().back(), "message \"Makro o podanej nazwie już istnieje !\" \"Morlan7 Makro\" warning ok");
 }
 
 TEST_F(Toolbar16, ANameCannotLeadOutOfTheDirectory) {
   for (const char* name : {"..\\x", "a/b", "c:x", "a*"}) {
     test.windows.inputs = {name};
     Press("new");
-    EXPECT_EQ(test.Asked().back(), "message \"Nazwa makra zawiera znaki, których nie może mieć plik.\" \"Makro\" warning ok") << name;
+    EXPECT_EQ(test.Asked().back(), "message \"Nazwa makra zawiera znaki, których nie może mieć plik.\" \"Morlan7 Makro\" warning ok")
+        << name;
     EXPECT_FALSE(test.program.runMacro(name));
   }
 }
@@ -112,9 +113,9 @@ TEST_F(Toolbar16, TheWizardRefusesWhatAMacroCannotHold) {
       EXPECT_TRUE(form.IsVisible());
       return test.Asked().at(0);
     };
-    EXPECT_EQ(refusal("", ""), "message \"Nazwa makra zawiera znaki, których nie może mieć plik.\" \"Makro\" warning ok");
-    EXPECT_EQ(refusal("jest", ""), "message \"Makro o podanej nazwie już istnieje !\" \"Makro\" warning ok");
-    EXPECT_EQ(refusal("b", "{"), "message \"Tekst nie może zawierać nawiasów klamrowych.\" \"Makro\" warning ok");
+    EXPECT_EQ(refusal("", ""), "message \"Nazwa makra zawiera znaki, których nie może mieć plik.\" \"Morlan7 Makro\" warning ok");
+    EXPECT_EQ(refusal("jest", ""), "message \"Makro o podanej nazwie już istnieje !\" \"Morlan7 Makro\" warning ok");
+    EXPECT_EQ(refusal("b", "{"), "message \"Tekst nie może zawierać nawiasów klamrowych.\" \"Morlan7 Makro\" warning ok");
     form.Command1.UserClicks();
   });
   EXPECT_FALSE(test.Exists("program\\MAKRO\\b.mac"));

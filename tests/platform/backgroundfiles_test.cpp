@@ -1,6 +1,7 @@
 #include "platform/posix/backgroundfiles.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <sys/stat.h>
 
@@ -54,6 +55,15 @@ TEST(Processes, KnowThisProgramFromOthers) {
   EXPECT_TRUE(IsRunningMorlan7(OwnProcess()));
   EXPECT_FALSE(IsRunningMorlan7(1)) << "the machine's first process";
   EXPECT_FALSE(IsRunningMorlan7(999999999));
+  EXPECT_FALSE(IsRunningMorlan7(0));
+}
+
+TEST(Processes, AnEarlierRunThatHadTheSameIdRunsNoMore) {
+  constexpr std::uint64_t kMark = std::uint64_t{1} << 22;
+  EXPECT_EQ(OwnProcess() % kMark, static_cast<std::uint64_t>(::getpid()));
+  EXPECT_EQ(OwnProcess(), OwnProcess());
+  EXPECT_FALSE(IsRunningMorlan7(static_cast<std::uint64_t>(::getpid())));
+  EXPECT_FALSE(IsRunningMorlan7(OwnProcess() ^ kMark));
 }
 
 TEST_F(BackgroundFilesTest, TheStateFolderIsTheUsersAlone) {

@@ -32,11 +32,23 @@ TEST_F(PosixFilesTest, ReadsBytesAsTheyAre) {
   EXPECT_EQ(files.Read(P("pusty")), "");
 }
 
+TEST_F(PosixFilesTest, MapsBytesAsTheyWereWhenTheFileIsReplaced) {
+  folder.Put("Slownik.pol", std::string("a\0b", 3));
+  const auto mapped = files.Map(P("slownik.POL"));
+  ASSERT_TRUE(mapped) << "found in any letter case, as all files are";
+  EXPECT_TRUE(files.Write(P("Slownik.pol"), "nowy"));
+  EXPECT_EQ(mapped->Bytes(), std::string_view("a\0b", 3));
+  folder.Put("pusty", "");
+  ASSERT_TRUE(files.Map(P("pusty")));
+  EXPECT_EQ(files.Map(P("pusty"))->Bytes(), "");
+}
+
 TEST_F(PosixFilesTest, WhatIsNoRegularFileIsNotReadAndNotWaitedFor) {
   ASSERT_EQ(::mkfifo((folder.path / "rura").c_str(), 0600), 0);
   fs::create_directory(folder.path / "katalog");
   for (const std::string& path : {P("rura"), P("katalog"), P("katalog\\"), P("brak"), std::string("c:\\dev\\zero"), std::string()}) {
     EXPECT_EQ(files.Read(path), std::nullopt) << path;
+    EXPECT_EQ(files.Map(path), nullptr) << path;
     EXPECT_EQ(files.Size(path), std::nullopt) << path;
   }
   for (const std::string& path : {P("rura"), P("katalog"), std::string("c:\\dev\\null"), std::string()}) {

@@ -68,15 +68,19 @@ TEST_F(ProfileTest, WhatTheUserHasIsNeverTouched) {
   EXPECT_FALSE(folder.Has("profil/program/Morlan7.ini"));
 }
 
-TEST_F(ProfileTest, AFolderWithoutPropertySheetsGetsThemAndItsOwnStay) {
+TEST_F(ProfileTest, AFolderWithoutDefinitionsGetsThemAndItsOwnStay) {
   ASSERT_TRUE(FillProfile(folders, shipped));
-  EXPECT_FALSE(folder.Has("profil/program/Morlan7.tpf"));
-  folder.Put("data/Morlan7.tpf", "new");
-  EXPECT_TRUE(FillProfile(folders, shipped));
-  EXPECT_EQ(folder.Get("profil/program/Morlan7.tpf"), "new");
-  folder.Put("profil/program/Morlan7.tpf", "mine");
-  EXPECT_TRUE(FillProfile(folders, shipped));
-  EXPECT_EQ(folder.Get("profil/program/Morlan7.tpf"), "mine");
+  fs::create_directory(folder.path / "data/SLOWNIKI");
+  for (const char* name : {"Morlan7.tpf", "CharSets.Def", "SLOWNIKI/morlan7i.pol", "SLOWNIKI/morlan7s.ang"}) {
+    const std::string own = std::string("profil/program/") + name;
+    EXPECT_FALSE(folder.Has(own));
+    folder.Put(std::string("data/") + name, "new");
+    EXPECT_TRUE(FillProfile(folders, shipped));
+    EXPECT_EQ(folder.Get(own), "new");
+    folder.Put(own, "mine");
+    EXPECT_TRUE(FillProfile(folders, shipped));
+    EXPECT_EQ(folder.Get(own), "mine");
+  }
 }
 
 TEST_F(ProfileTest, CopiesOfReadOnlyFilesCanBeWritten) {

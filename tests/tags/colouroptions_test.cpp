@@ -94,5 +94,28 @@ TEST_F(ColourOptionsTest, AValueIsReadInAnyCase) {
   EXPECT_EQ(Shown("<FONT>", "kolory(0)"), "true");
 }
 
+TEST_F(ColourOptionsTest, ASampleShowsTheTrueColourOfAClickedOptionAndNoneForTheUndefinedOne) {
+  Rewritten("<FONT>", [](Form& form) {
+    auto& sample = *form.FindAs<ColourBox>("wzor");
+    EXPECT_FALSE(sample.IsSet());
+    form.FindAs<OptionButton>("kolory(6)")->UserSets();
+    EXPECT_TRUE(sample.IsSet());
+    EXPECT_EQ(sample.Value(), RgbColour(0x80, 0, 0));
+    form.FindAs<OptionButton>("kolory(0)")->UserSets();
+    EXPECT_FALSE(sample.IsSet());
+  });
+}
+
+TEST_F(ColourOptionsTest, HaveSamplesOfTheirColours) {
+  Rewritten("<FONT>", [](Form& form) {
+    EXPECT_EQ(form.FindAs<OptionButton>("kolory(4)")->sample, RgbColour(0xFF, 0, 0));
+    EXPECT_EQ(form.FindAs<OptionButton>("kolory(12)")->sample, RgbColour(0x80, 0x80, 0x80)) << "silwer is meant to be grey";
+    for (const char* name : {"kolory(0)", "kolory(14)"}) {
+      EXPECT_TRUE(form.FindAs<OptionButton>(name)->showsSample);
+      EXPECT_FALSE(form.FindAs<OptionButton>(name)->sample);
+    }
+  });
+}
+
 }  // namespace
 }  // namespace morlan

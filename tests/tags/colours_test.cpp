@@ -30,7 +30,12 @@ TEST(Colours, NamesAreReadInAnyCase) { EXPECT_EQ(ColorNameToValue("Red"), ColorN
 
 TEST(Colours, DigitsAreNotExchanged) { EXPECT_EQ(ColorNameToValue("FF0000"), RgbColour(0xFF, 0, 0)); }
 
-TEST(Colours, ANumberSignMovesThePairsOnPurpose) { EXPECT_NE(ColorNameToValue("#FF0000"), RgbColour(0xFF, 0, 0)); }
+// The pairs of "#FF0000" are "#F", "F0" and "00".
+TEST(Colours, ANumberSignMovesThePairsOnPurpose) {
+  const Colour colour = ColorNameToValue("#FF0000");
+  EXPECT_EQ(colour >> 8 & 0xFF, 0xF0u) << "green";
+  EXPECT_EQ(colour >> 16, 0u) << "blue";
+}
 
 }  // namespace
 }  // namespace morlan

@@ -84,10 +84,71 @@ TEST_F(ContextMenu, KnowsTheTagsThatAreOnlyEdited) {
   for (const std::string_view name : {"p", "/a", "b", "title", ""}) EXPECT_FALSE(Offer("<x", name).isKnown) << name;
 }
 
-TEST_F(ContextMenu, NamesTheTagAndHidesTheEditEntryWithoutAnEditor) {
-  test_.program.tagState.tagEditors.erase("EditForm");
+TEST_F(ContextMenu, TheEditEntryOfATagWithoutAnEditorCannotBePicked) {
+  for (const std::string_view tag : {"<DESCRIPTION VALUE=\"a\"/>", "<CATEGORY VALUE=\"a\"/>"}) {
+    const TEditor& document = RightClick(tag, 3);
+    EXPECT_EQ(Shown(document), "xmn_tagname xmn_item") << tag;
+    EXPECT_FALSE(document.xmnm_editpopup.Find("xmn_item")->enabled) << tag;
+  }
+  EXPECT_TRUE(RightClick("<hr>", 2).xmnm_editpopup.Find("xmn_item")->enabled);
+}
+
+// Every tag of the dispatch that the menu knows too; TITLE and ABSTRACT are not among them.
+const std::pair<std::string_view, std::string_view> kEditors[] = {
+    {"EMBED", "EditEmbed"},
+    {"IMG", "EditImage"},
+    {"A", "EditAnchor"},
+    {"HR", "EditLine"},
+    {"BASEFONT", "EditBaseFont"},
+    {"FONT", "EditFont"},
+    {"TABLE", "EditTable"},
+    {"TR", "EditRow"},
+    {"TH", "EditCell"},
+    {"TD", "EditCell"},
+    {"FRAMESET", "EditFrameSet"},
+    {"FRAME", "EditFrame"},
+    {"IFRAME", "EditIFrame"},
+    {"FORM", "EditForm"},
+    {"CFQUERY", "EditCfQuery"},
+    {"CFMAIL", "EditCfMail"},
+    {"CFFILE", "EditCfFile"},
+    {"CFTABLE", "EditCfTable"},
+    {"CFCOL", "EditCfCol"},
+    {"APPLET", "EditApplet"},
+    {"CHANNEL", "EditChannel"},
+    {"LOGO", "EditLogo"},
+    {"AUTHOR", "EditAuthor"},
+    {"PUBLISHER", "EditPublisher"},
+    {"COPYRIGHT", "EditCopyright"},
+    {"KEYWORDS", "EditKeywords"},
+    {"CATEGORYNAME", "EditCategoryName"},
+    {"INTROURL", "EditIntroUrl"},
+    {"MINSTORAGE", "EditMinStorage"},
+    {"LASTMOD", "EditLastMod"},
+    {"PUBLICATIONDATE", "EditPublicationDate"},
+    {"ITEM", "EditItem"},
+    {"STARTDATE", "EditStartDate"},
+    {"ENDDATE", "EditEndDate"},
+    {"BODY", "EditBody"},
+    {"SCRIPT", "EditScript"},
+};
+
+TEST_F(ContextMenu, TheEditEntryCallsTheEditorOfEveryTag) {
+  std::string called;
+  for (auto& [name, edit] : test_.program.tagState.tagEditors) edit = [&called, name = name] { called = name; };
+  for (const auto& [tag, editor] : kEditors) {
+    called.clear();
+    const TEditor& document = RightClick(Concat({"<", LowerCase(tag), " x>"}), 2);
+    EXPECT_EQ(Shown(document), "xmn_tagname xmn_item") << tag;
+    EXPECT_EQ(Caption(document, "xmn_tagname"), Concat({"<", tag, ">"}));
+    EXPECT_TRUE(test_.program.commands.RunMenu("xmn_item"));
+    EXPECT_EQ(called, editor) << tag;
+  }
+}
+
+TEST_F(ContextMenu, NamesTheTagAndRemembersItsPlace) {
   const TEditor& document = RightClick("a <form method=get> b", 6);
-  EXPECT_EQ(Shown(document), "xmn_tagname");
+  EXPECT_EQ(Shown(document), "xmn_tagname xmn_item");
   EXPECT_EQ(Caption(document, "xmn_tagname"), "<FORM>");
   EXPECT_EQ(test_.program.tagState.CurrentTagText, "<form method=get");
   EXPECT_EQ(test_.program.tagState.CurrentTagStart, 3u);

@@ -49,6 +49,16 @@ TEST_F(LineEditor, ALineAlignedToTheRightLosesItsAlignmentOnPurpose) {
 
 TEST_F(LineEditor, AWidthInBlanksReadsAsTrueOnPurpose) { EXPECT_EQ(Rewritten("<HR WIDTH = 5>"), "<HR WIDTH=true>"); }
 
+TEST_F(LineEditor, TheSampleShowsTheColourOfTheTag) {
+  Rewritten("<HR COLOR=red>", [](Form& form) { EXPECT_EQ(static_cast<lineedit&>(form).wzor.Value(), RgbColour(0xFF, 0, 0)); });
+  Rewritten("<HR>", [](Form& form) { EXPECT_FALSE(static_cast<lineedit&>(form).wzor.IsSet()); });
+}
+
+TEST_F(LineEditor, TheSampleShowsAUsersColourWithItsChannelsExchangedOnPurpose) {
+  const auto look = [](Form& form) { EXPECT_EQ(static_cast<lineedit&>(form).wzor.Value(), 0x123456u); };
+  Rewritten("<HR COLOR=0123456>", look);
+}
+
 TEST_F(LineEditor, TheButtonsHaveTheirNamesSwappedOnPurpose) {
   const lineedit& form = test_.program.forms.Get<lineedit>();
   EXPECT_EQ(form.Command1.Caption(), "&Ok");

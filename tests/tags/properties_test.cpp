@@ -1,6 +1,7 @@
 // The property sheet on a document: rows, reading, writing, and what the file of tags says to it.
 #include "tags/properties.h"
 
+#include "core/documents.h"
 #include "tests/tags/sheetfixture.h"
 
 namespace morlan {
@@ -88,6 +89,26 @@ TEST_F(PropertySheet, CancelLeavesTheDocumentAlone) {
                 "<input size=3>", [](Properties& sheet) { Set(sheet, "Value_(2)", "9"); }, false),
             "<input size=3>");
   EXPECT_FALSE(test_.program.ActiveDocument->IsModified());
+}
+
+TEST_F(PropertySheet, ATagThatIsNotThereAnyMoreIsNotWritten) {
+  test_.OpenText("<p>drugi", "drugi.html");
+  TEditor& first = test_.OpenText("ab<input size=1>yz", "pierwszy.html");
+  first.EditedText.Select(3, 0);
+  test_.windows.modals.push_back([&](Form& form) {
+    CloseActiveDocument(test_.program);
+    static_cast<Properties&>(form).Command2.UserClicks();
+  });
+  OpenPropertySheet(test_.program, first);
+  EXPECT_EQ(test_.Text(), "<p>drugi");
+}
+
+TEST_F(PropertySheet, AFileOfTheSameLengthIsSeenWhenTheSheetOpens) {
+  Rewritten("<input>");
+  std::string bytes = SheetsOf(test_.program).File().Bytes();
+  bytes.replace(bytes.find("Pole formularza"), 4, "Park");
+  test_.Write("program\\Morlan7.tpf", bytes);
+  Rewritten("<input>", [](Properties& sheet) { EXPECT_EQ(sheet.Info.Caption(), "Park formularza"); });
 }
 
 TEST_F(PropertySheet, DialogResultIsNotUsed) {

@@ -1,48 +1,20 @@
 // The two ways of each server-side tag: the toolbar's button that inserts one, and the context menu's entry that rewrites one.
 #include "tags/servertags.h"
 
-#include <gtest/gtest.h>
-
-#include "core/text.h"
-#include "tests/support/testprogram.h"
+#include "tests/support/tageditorfixture.h"
 
 namespace morlan {
 namespace {
 
-using Fields = std::vector<std::pair<std::string_view, std::string_view>>;
-
-class ServerTags : public testing::Test {
+class ServerTags : public TagEditorTest {
  protected:
   ServerTags() { test_.files.CreateDirectory(test_.Path("program\\Listy")); }
-  static void FillIn(Form& form, const Fields& fields, bool ok) {
-    for (const auto& [name, text] : fields) EXPECT_TRUE(form.Find(name) && form.Find(name)->UserSetsText(text)) << name;
-    EXPECT_TRUE(form.Find(ok ? "Command2" : "Command1")->UserClicks());
-  }
-  void Expect(const Fields& fields, bool ok) {
-    test_.windows.modals.push_back([fields, ok](Form& form) { FillIn(form, fields, ok); });
-  }
-  std::string Inserted(std::string_view toolbar, std::string_view key, const Fields& fields, bool ok = true) {
-    test_.OpenText("x").EditedText.Select(0, 1);
-    Expect(fields, ok);
-    EXPECT_TRUE(test_.program.commands.RunToolbar(toolbar, key));
-    return test_.Text();
-  }
-  std::string Rewritten(std::string_view tag, const Fields& fields = {}, bool ok = true) {
-    test_.OpenText(Concat({"ab", tag, "yz"})).EditedText.Select(3, 0);
-    Expect(fields, ok);
-    test_.program.ActiveDocument->EditedText_OnMouseDown(MouseButton::Right);
-    EXPECT_TRUE(test_.program.commands.RunMenu("xmn_item"));
-    const std::string text = test_.Text();
-    EXPECT_TRUE(text.starts_with("ab") && text.ends_with("yz")) << text;
-    return text.substr(2, text.size() - 4);
-  }
-  TestProgram test_;
 };
 
 // In the order: what is filled in, the new tag round "x", the tag that stands there, that tag written anew.
 struct TagCase {
   std::string_view toolbar, key;
-  Fields fields;
+  std::vector<std::pair<std::string_view, std::string_view>> fields;
   std::string_view inserted, old, rewritten;
 };
 
@@ -102,21 +74,21 @@ TEST_F(ServerTags, ATagIsWrittenAnewFromItsDialog) {
 TEST_F(ServerTags, OneUndoBringsTheOldTagBack) {
   for (const TagCase& row : kTags) {
     Rewritten(row.old);
-    test_.program.ActiveDocument->UNDO.DoUndo(*test_.program.ActiveDocument);
+    Undo();
     EXPECT_EQ(test_.Text(), Concat({"ab", row.old, "yz"}));
   }
 }
 
 TEST_F(ServerTags, CancelLeavesTheDocumentAlone) {
   for (const TagCase& row : kTags) {
-    EXPECT_EQ(Inserted(row.toolbar, row.key, row.fields, false), "x");
-    EXPECT_EQ(Rewritten(row.old, {}, false), row.old);
+    EXPECT_EQ(Inserted(row.toolbar, row.key, row.fields, End::Cancel), "x");
+    EXPECT_EQ(Rewritten(row.old, Values{}, End::Cancel), row.old);
     EXPECT_FALSE(test_.program.ActiveDocument->IsModified());
   }
 }
 
 TEST_F(ServerTags, AnEmptyDialogIsACancel) {
-  EXPECT_EQ(Inserted("Toolbar12", "query", {}), "x");
+  EXPECT_EQ(Inserted("Toolbar12", "query"), "x");
   EXPECT_EQ(Rewritten("<CFQUERY DEBUG>"), "<CFQUERY DEBUG>");
   EXPECT_EQ(Rewritten("<SCRIPT SRC=\"a.js\">"), "<SCRIPT SRC=\"a.js\">");
 }
@@ -133,7 +105,7 @@ TEST_F(ServerTags, AVariableOfTheServerIsWrittenForBothLanguages) {
   EXPECT_EQ(Inserted("Toolbar11", "servervar", {{"ServerVar", "SERVER_NAME"}}), "<% Request.ServerVariables(\"SERVER_NAME\") %>x");
   EXPECT_EQ(Inserted("Toolbar12", "servervar", {{"ServerVar", "MOJA"}}), "#cgi.MOJA#x");
   EXPECT_EQ(test_.Read("program\\Listy\\ServerVar.lst"), "SERVER_NAME\r\nMOJA\r\n");
-  EXPECT_EQ(Inserted("Toolbar11", "servervar", {{"ServerVar", "A"}}, false), "x");
+  EXPECT_EQ(Inserted("Toolbar11", "servervar", {{"ServerVar", "A"}}, End::Cancel), "x");
   EXPECT_EQ(Inserted("Toolbar12", "servervar", {{"ServerVar", ""}}), "x");
 }
 
@@ -144,7 +116,7 @@ TEST_F(ServerTags, AnIncludedFileLacksItsExclamationMarkOnPurpose) {
 TEST_F(ServerTags, AnIncludedTemplateEndsLikeACommentOnPurpose) {
   EXPECT_EQ(Inserted("Toolbar12", "include", {{"Href", "a.cfm"}}), "<CFINCLUDE TEMPLATE=\"a.cfm\"-->x");
   EXPECT_EQ(test_.Read("program\\Listy\\Include.lst"), "a.cfm\r\n");
-  EXPECT_EQ(Inserted("Toolbar12", "include", {}, false), "x");
+  EXPECT_EQ(Inserted("Toolbar12", "include", Values{}, End::Cancel), "x");
 }
 
 TEST_F(ServerTags, EveryDialogOpensByItsNameWhileADocumentIsOpen) {

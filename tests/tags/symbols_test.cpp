@@ -35,8 +35,8 @@ TEST_F(Symbols, ASymbolThatTheFileLacksStandsForItself) {
 }
 
 TEST_F(Symbols, ASingleClickShowsTheSymbol) {
-  chars().UserSelects(chars().IndexOf("Ą"_pl) < 0 ? 1 : chars().IndexOf("Ą"_pl));
-  EXPECT_EQ(test_.frame().CharsLabel.Caption(), chars().SelectedRow());
+  chars().UserSelects(chars().IndexOf("Á"_pl));
+  EXPECT_EQ(test_.frame().CharsLabel.Caption(), "Á"_pl);
 }
 
 TEST_F(Symbols, TheLabelDoublesAnAmpersand) {

@@ -55,6 +55,28 @@ TEST_F(TagEditors, QuotesAndLineEndsGoIntoTheTagAsTheyAre) {
   EXPECT_EQ(Rewritten("<A HREF=\"a\">", {{"etykieta", "b\"\r\nc"}}), "<A HREF=\"a\" NAME=\"b\"\r\nc\">");
 }
 
+TEST_F(TagEditors, NothingIsWrittenWhereTheTagHasGone) {
+  for (const std::string_view now : {"", "ab", "ab<hr", "abcdef>yz"}) {
+    test_.OpenText("ab<hr>yz").EditedText.Select(3, 0);
+    test_.windows.modals.push_back([&](Form& form) {
+      test_.program.ActiveEditor->SetText(std::string(now));
+      form.defaultButton->UserClicks();
+    });
+    test_.program.ActiveDocument->EditedText_OnMouseDown(MouseButton::Right);
+    EXPECT_TRUE(test_.program.commands.RunMenu("xmn_item"));
+    EXPECT_EQ(test_.Text(), now);
+  }
+}
+
+TEST_F(TagEditors, ATagOfADocumentInChannelModeIsRewritten) {
+  test_.OpenText("<hr width=5>").EditedText.Select(3, 0);
+  EXPECT_TRUE(test_.program.commands.RunMenu("xmn_ModeCdf"));
+  test_.windows.modals.push_back([](Form& form) { form.defaultButton->UserClicks(); });
+  test_.program.ActiveDocument->EditedText_OnMouseDown(MouseButton::Right);
+  EXPECT_TRUE(test_.program.commands.RunMenu("xmn_item"));
+  EXPECT_EQ(test_.Text(), "<HR WIDTH=5>");
+}
+
 TEST_F(TagEditors, AVeryLongValueIsKept) {
   const std::string value(100000, 'x');
   EXPECT_EQ(Rewritten("<A HREF=\"a\">", {{"href", value}}), Concat({"<A HREF=\"", value, "\">"}));

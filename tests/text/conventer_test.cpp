@@ -181,7 +181,7 @@ TEST_F(ConventerForm, StopsBetweenTwoFiles) {
     form.Command1.UserClicks();
     EXPECT_TRUE(form.IsVisible()) << "the report can be read";
     EXPECT_FALSE(form.Step.Enabled());
-    EXPECT_EQ(form.Progress.Caption(), "Przekształcono plików: 1 z 1"_pl);
+    EXPECT_EQ(form.Progress.Caption(), "Przekształcono plików: 1 z 3, przerwano"_pl);
     EXPECT_TRUE(form.Command2.Enabled());
     EXPECT_EQ(form.Command1.Caption(), "&Anuluj");
     form.Command1.UserClicks();
@@ -254,6 +254,9 @@ TEST_F(ConventerForm, RefusesAnIncompleteOrder) {
     form.FileName.UserSets(" ");
     form.Command2.UserClicks();
     EXPECT_EQ(test.Asked().back(), "message \"Nie wskazane pliki źródłowe. Proszę wskazać.\" \"Morlan7\" stop ok");
+    form.FileName.UserSets("@brak");
+    form.Command2.UserClicks();
+    EXPECT_EQ(test.Asked().back(), "message \"Nie ma plików do przekształcenia !\" \"Morlan7\" stop ok");
     form.FileName.UserSets("c:\\a.html");
     form.AskForName.UserSets(false);
     form.OverWrite.UserSets(false);

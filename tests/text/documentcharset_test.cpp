@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "core/documents.h"
+#include "core/newdoc.h"
 #include "core/text.h"
 #include "tests/support/testprogram.h"
 #include "text/charsetcommands.h"
@@ -247,6 +248,18 @@ TEST_F(DocumentCharset, AnotherSetIsChosenInADialog) {
   test.windows.modals.push_back([](Form& form) { form.cancelButton->UserClicks(); });
   test.program.commands.RunMenu("xmn_plcharinne");
   EXPECT_EQ(test.Text(), Page("mazovia", ""));
+}
+
+TEST_F(DocumentCharset, ANewPageHasTheSetOfTheSettings) {
+  test.Write("program\\SZABLONY\\a.hst", Page("windows-1250", "\xB9"));
+  test.program.MainIni.SetSubItemValue("Document", "CharSet", "iso-8859-2");
+  test.windows.modals.push_back([](Form& form) {
+    form.Find("DocList")->UserSetsText("a");
+    form.Find("Command1")->UserClicks();
+  });
+  NewDocument(test.program);
+  EXPECT_EQ(Marked(*test.program.ActiveDocument), "xmn_iso88592");
+  EXPECT_NE(test.program.passes.encode(test.Text()).find('\xB1'), std::string::npos);
 }
 
 TEST_F(DocumentCharset, SymbolsAreSwitchedAndThePageWantsToBeSaved) {

@@ -32,14 +32,27 @@ TEST_F(SimilarWordsTest, UndoesOneSlipOfEachKind) {
 }
 
 TEST_F(SimilarWordsTest, LettersThatSoundAlikeOrDifferByTheirMarkComeFirst) {
-  EXPECT_EQ(Similar("gura", {"góra"_pl, "kura", "gra"}), "góra|gra|kura|");
+  EXPECT_EQ(Similar("gura", {"góra"_pl, "mura", "gra"}), "góra|gra|mura|");
   EXPECT_EQ(Similar("zolw", {"żółw"_pl}), "żółw|");
   EXPECT_EQ(Similar("rzaba", {"żaba"_pl}), "żaba|");
+  EXPECT_EQ(Similar("stronnie", {"stronie", "strojnie"}), "stronie|strojnie|");
+  EXPECT_EQ(Similar("pana", {"panna", "pan"}), "panna|pan|");
+}
+
+TEST_F(SimilarWordsTest, ASmallWordThatRanIntoTheNextIsParted) {
+  EXPECT_EQ(Similar("wogóle"_pl, {"ogóle"_pl, "w"}), "w ogóle|ogóle|");
+  EXPECT_EQ(Similar("narazie", {"razie", "nakazie"}), "na razie|nakazie|");
+}
+
+TEST_F(SimilarWordsTest, NamesComeLastForAWordInSmallLetters) {
+  EXPECT_EQ(Similar("gura", {"Hura", "mura"}), "mura|Hura|");
+  EXPECT_EQ(Similar("Gura", {"Hura"}), "Hura|");
 }
 
 TEST_F(SimilarWordsTest, TwoSlipsAreLookedForWhereOneFindsNothing) {
   EXPECT_EQ(Similar("tsorna", {"strona"}), "strona|");
   EXPECT_EQ(Similar("abcdef", {"strona"}), "");
+  EXPECT_EQ(Similar("tosk", {"stok", "kot"}), "") << "in short words that would find nearly everything";
 }
 
 TEST_F(SimilarWordsTest, GivesTheNearestUpToTheWantedNumber) {

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <fstream>
+#include <stdexcept>
 
 #include "app/assemble.h"
 #include "core/documents.h"
@@ -117,7 +118,8 @@ class FormTour::Running {
  private:
   static ProfileFolders Filled(const std::string& folder) {
     const ProfileFolders folders = FoldersBelow(folder);
-    FillProfile(folders, FindShippedData().value_or(""));
+    // Without its data the program would only come up with a message.
+    if (!FillProfile(folders, FindShippedData().value_or(""))) throw std::runtime_error("there is no shipped data beside the program");
     return folders;
   }
 

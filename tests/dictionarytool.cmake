@@ -1,0 +1,26 @@
+# Builds a dictionary of a small list with TOOL in FOLDER and looks at the files.
+file(REMOVE_RECURSE ${FOLDER})
+file(WRITE ${FOLDER}/a.txt "żółw\r\nkot\nkot\n\nŁódź\n")
+file(WRITE ${FOLDER}/b.txt "ala\n日本\nångström")
+
+execute_process(COMMAND ${TOOL} ${FOLDER}/out tst ${FOLDER}/a.txt ${FOLDER}/b.txt RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "the dictionary was not built")
+endif()
+file(SIZE ${FOLDER}/out/morlan7s.tst bits)
+file(READ ${FOLDER}/out/morlan7i.tst automaton HEX)
+# 24 bytes in front of the arc that is not used and those of ala, kot, żółw and Łódź, which have no common ends.
+string(LENGTH ${automaton} digits)
+math(EXPR bytes "${digits} / 2")
+if(NOT bits EQUAL 750001 OR NOT bytes EQUAL 84)
+  message(FATAL_ERROR "the files have ${bits} and ${bytes} bytes")
+endif()
+
+execute_process(COMMAND ${TOOL} ${FOLDER}/out tst ${FOLDER}/missing.txt RESULT_VARIABLE status ERROR_VARIABLE told)
+if(NOT status EQUAL 1 OR NOT told MATCHES "missing.txt: cannot be read")
+  message(FATAL_ERROR "a missing list: status ${status}, ${told}")
+endif()
+execute_process(COMMAND ${TOOL} ${FOLDER}/out RESULT_VARIABLE status ERROR_VARIABLE told)
+if(NOT status EQUAL 2 OR NOT told MATCHES "^morlan7-dictionary FOLDER")
+  message(FATAL_ERROR "wrong use: status ${status}, ${told}")
+endif()
