@@ -55,6 +55,8 @@ TEditor& MakeDocument(Program& program, std::string_view caption) {
   program.documents.push_back(document);
   document->SetCaption(caption);
   SetUpMenu(program, document->menu);
+  document->Form_Initialize();
+  document->Form_Load();
   return *document;
 }
 

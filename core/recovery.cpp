@@ -90,6 +90,7 @@ void OpenKeptText(Program& program, const KeptText& kept) {
   TEditor& document = *program.ActiveDocument;
   document.EditedText.SetSelText(*text);
   document.EditedText.Select(0, 0);
+  if (document.EditedText.UseColorise && program.passes.colourDocument) program.passes.colourDocument(document.EditedText);
   document.CharSet.SetCaption(program.CurrentCharset);
   if (!isUnsaved) return;
   // The text is this program's own from now on, and kept as such before the other one's goes.

@@ -37,6 +37,7 @@ void ShortTagWizard::Refuse(Control& field, std::string_view message) {
 
 void ShortTagWizard::MakeMacro() {
   const std::string path = MacroPath(program_, Nazwa.Text());
+  if (Trim(Nazwa.Text()).empty()) return Refuse(Nazwa, "Podaj nazwę makra."_pl);
   if (!IsMacroName(Nazwa.Text())) return Refuse(Nazwa, kBadMacroName);
   if (FileExists(program_, path)) return Refuse(Nazwa, kMacroExists);
   for (TextBox* field : {&Poczatek, &Koniec})

@@ -16,12 +16,12 @@ bool IsListed(ParamKind kind) { return kind != ParamKind::Colour && kind != Para
 
 void FillHintList(Program& program, ListBox& list, std::string_view tagName) {
   if (list.Tag == tagName && list.ListCount() != 0) return;
+  list.Clear();
   const auto params = ParamsOfTag(program, tagName);
   if (!params) return;
   std::vector<std::string> rows;
   for (const ParamRecord& param : *params)
     if (IsListed(param.kind)) rows.push_back(Concat({param.name, param.kind == ParamKind::Switch ? "" : "="}));
-  list.Clear();
   list.AddItems(rows);
   list.SetListIndex(0);
 }

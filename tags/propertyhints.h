@@ -10,8 +10,8 @@ namespace morlan {
 class ListBox;
 class Program;
 
-// Nothing happens when the list shows the tag already. Attributes are rows with a "=" behind the name, switches are bare;
-// colours and those with a dialog of their own are left out. The list's Tag is left to the caller.
+// Nothing happens when the list shows the tag already; an unknown tag has no rows. Attributes are rows with a "=" behind the name, switches
+// are bare; colours and those with a dialog of their own are left out. The list's Tag is left to the caller.
 void FillHintList(Program& program, ListBox& list, std::string_view tagName);
 
 // All the tag's attributes in one line, each with its default behind the "=", switches bare; empty for an unknown tag.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/defs.h"
+#include "core/document.h"
 #include "core/status.h"
 #include "core/text.h"
 
@@ -43,7 +44,15 @@ bool PropertySheets::Change(const std::function<bool(PropertyFile& file)>& chang
   if (!program_.platform.files.Write(Path(), changed.Bytes())) return false;
   readLength_ = changed.Bytes().size();
   file_ = std::move(changed);
+  ForgetHints();
   return true;
+}
+
+void PropertySheets::ForgetHints() {
+  for (const auto& document : program_.documents) {
+    document->FastHelpC.Tag.clear();
+    document->FastHelpL.Tag.clear();
+  }
 }
 
 PropertySheets& SheetsOf(Program& program) {

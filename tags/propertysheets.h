@@ -32,6 +32,7 @@ class PropertySheets {
 
  private:
   std::string Path() const;
+  void ForgetHints();  // what the hints show of a tag may be old
 
   Program& program_;
   PropertyFile file_;

@@ -23,17 +23,17 @@ constexpr EditorRow kEditors[] = {
 
 // clang-format off
 constexpr InsertionRow kInsertions[] = {
-    {"Toolbar1",  "line",      "mn_line",      "lineedit", InsertLine},
-    {"Toolbar1",  "anchor",    "mn_anchor",    "anchor",   InsertAnchor},
-    {"Toolbar1",  "image",     "mn_image",     "image",    InsertImage},
-    {"Toolbar2",  "basefont",  "mn_basefont",  "",         InsertBaseFont},
-    {"Toolbar2",  "quickfont", "mn_quickfont", "Fonty",    InsertQuickFont},
-    {"",          "",          "mn_edit_font", "",         InsertQuickFont},
-    {"Toolbar3",  "metadtbl",  "",             "Tabela",   InsertTable},
-    {"Toolbar3",  "metadtr",   "",             "DTR",      InsertRow},
-    {"Toolbar3",  "metadth",   "",             "",         InsertHeaderCell},
-    {"Toolbar3",  "metadtd",   "",             "DTH",      InsertCell},
-    {"Toolbar13", "embed",     "",             "embed",    InsertEmbed},
+    {"Toolbar1",  "line",      "mn_line",         "lineedit", InsertLine},
+    {"Toolbar1",  "anchor",    "mn_anchor",       "anchor",   InsertAnchor},
+    {"Toolbar1",  "image",     "mn_image",        "image",    InsertImage},
+    {"Toolbar2",  "basefont",  "mn_basefont",     "",         InsertBaseFont},
+    {"Toolbar2",  "quickfont", "mn_quickfont",    "Fonty",    InsertQuickFont},
+    {"",          "",          "mn_edit_font",    "",         InsertQuickFont},
+    {"Toolbar3",  "metadtbl",  "mn_tabledialog",  "Tabela",   InsertTable},
+    {"Toolbar3",  "metadtr",   "mn_rowdialog",    "DTR",      InsertRow},
+    {"Toolbar3",  "metadth",   "mn_headerdialog", "",         InsertHeaderCell},
+    {"Toolbar3",  "metadtd",   "mn_celldialog",   "DTH",      InsertCell},
+    {"Toolbar13", "embed",     "mn_embed",        "embed",    InsertEmbed},
 };
 // clang-format on
 

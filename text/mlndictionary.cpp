@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "text/similarwords.h"
 #include "text/spellingbits.h"
+#include "text/wordcase.h"
 
 namespace morlan {
 namespace {
@@ -30,18 +31,8 @@ constexpr EndingRow kEndings[] = {
     {kEnglish, "d"},    {kEnglish, "ll"}, {kEnglish, "re"}, {kEnglish, "ve"}, {kEnglish, "m"},
 };
 
-bool IsLower(std::string_view word) {
-  return std::all_of(word.begin(), word.end(), [](char letter) { return LowerCharacter(letter) == letter; });
-}
-bool IsUpper(std::string_view word) {
-  return std::all_of(word.begin(), word.end(), [](char letter) { return UpperCharacter(letter) == letter; }) && !IsLower(word);
-}
 bool HasDigit(std::string_view word) { return word.find_first_of("0123456789") != std::string_view::npos; }
 bool IsNumber(std::string_view word) { return word.find_first_not_of("0123456789") == std::string_view::npos; }
-
-std::string WithCapital(std::string_view word) {
-  return word.empty() ? std::string() : Concat({UpperCase(word.substr(0, 1)), word.substr(1)});
-}
 
 }  // namespace
 
@@ -156,17 +147,6 @@ bool MlnDictionary::IsKnownBeforeApostrophe(std::string_view word) const {
 
 bool MlnDictionary::IsKnown(std::string_view word) const { return IsHeldInAnyCase(word) || IsKnownBeforeApostrophe(word); }
 
-std::vector<std::string> MlnDictionary::Similar(std::string_view word) const {
-  std::vector<std::string> similar = SimilarWords(automaton_, word, kMostSimilar);
-  if (IsLower(word)) return similar;
-  std::erase_if(similar, IsLower);
-  for (const std::string& lowered : SimilarWords(automaton_, LowerCase(word), kMostSimilar)) {
-    const bool isCapital = IsLower(word.substr(1));
-    std::string cased = IsUpper(word) ? UpperCase(lowered) : isCapital ? WithCapital(lowered) : lowered;
-    if (std::find(similar.begin(), similar.end(), cased) == similar.end()) similar.push_back(std::move(cased));
-  }
-  if (similar.size() > kMostSimilar) similar.resize(kMostSimilar);
-  return similar;
-}
+std::vector<std::string> MlnDictionary::Similar(std::string_view word) const { return SimilarWords(automaton_, word, kMostSimilar); }
 
 }  // namespace morlan

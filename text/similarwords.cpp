@@ -4,7 +4,7 @@
 #include <map>
 
 #include "platform/encoding.h"
-#include "platform/lettercase.h"
+#include "text/wordcase.h"
 
 namespace morlan {
 namespace {
@@ -113,26 +113,40 @@ class Search {
   Costs found_;
 };
 
-}  // namespace
-
-void AddParted(const WordAutomaton& words, std::string_view word, Costs& found) {
-  for (const std::string_view small : kSmallWords) {
-    if (!word.starts_with(small) || !words.Holds(word.substr(small.size()))) continue;
-    found.try_emplace(std::string(small) + ' ' + std::string(word.substr(small.size())), kHalfSlip);
-  }
+// The words of the automaton within so many slips, and small words that ran into the next.
+Costs Near(const WordAutomaton& words, std::string_view word, int most) {
+  Costs found = Search(words, word, most).Run();
+  for (const std::string_view small : kSmallWords)
+    if (word.starts_with(small) && words.Holds(word.substr(small.size())))
+      found.try_emplace(std::string(small) + ' ' + std::string(word.substr(small.size())), kHalfSlip);
+  // A name is seldom meant by a word in small letters.
+  if (IsLower(word))
+    for (auto& [similar, cost] : found) cost += IsLower(similar) ? 0 : kSlip;
+  return found;
 }
+
+// The same for a word with capitals: names as they are, and other words in the letter case of this one.
+Costs NearInCase(const WordAutomaton& words, std::string_view word, int most) {
+  Costs found = Near(words, word, most);
+  if (IsLower(word)) return found;
+  std::erase_if(found, [](const auto& entry) { return IsLower(entry.first); });
+  for (const auto& [lowered, cost] : Near(words, LowerCase(word), most)) {
+    const std::string cased = IsUpper(word) ? UpperCase(lowered) : IsLower(word.substr(1)) ? WithCapital(lowered) : lowered;
+    const auto [entry, isNew] = found.try_emplace(cased, cost);
+    if (!isNew) entry->second = std::min(entry->second, cost);
+  }
+  return found;
+}
+
+}  // namespace
 
 std::vector<std::string> SimilarWords(const WordAutomaton& words, std::string_view word, std::size_t most) {
   if (word.empty() || word.size() > kLongestWord) return {};
   // One slip first: more are looked for only where that finds nothing.
-  Costs found = Search(words, word, kSlip).Run();
-  AddParted(words, word, found);
-  if (found.empty()) found = Search(words, word, word.size() > kLongestShortWord ? kMostSlips : kMostInShortWord).Run();
+  Costs found = NearInCase(words, word, kSlip);
+  if (found.empty()) found = NearInCase(words, word, word.size() > kLongestShortWord ? kMostSlips : kMostInShortWord);
   found.erase(std::string(word));
   std::vector<std::pair<std::string, int>> nearest(found.begin(), found.end());
-  // A name is seldom meant by a word in small letters.
-  if (LowerCase(word) == word)
-    for (auto& [similar, cost] : nearest) cost += LowerCase(similar) == similar ? 0 : kSlip;
   std::stable_sort(nearest.begin(), nearest.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
   std::vector<std::string> similar;
   for (std::size_t i = 0; i < std::min(most, nearest.size()); ++i) similar.push_back(nearest[i].first);

@@ -150,7 +150,11 @@ std::uint64_t NumberOf(std::uint64_t id) {
 
 }  // namespace
 
-std::uint64_t OwnProcess() { return NumberOf(static_cast<std::uint64_t>(::getpid())); }
+std::uint64_t OwnProcess() {
+  const auto id = static_cast<std::uint64_t>(::getpid());
+  const std::uint64_t number = NumberOf(id);
+  return number != 0 ? number : id;  // where the system does not tell of its processes
+}
 
 bool IsRunningMorlan7(std::uint64_t process) {
   const std::uint64_t id = process & kLargestId;

@@ -61,7 +61,6 @@ void PrepareToolkit() {
 
 void SetUpToolkit() {
   QCoreApplication::setApplicationName(QStringLiteral("morlan7"));
-  QGuiApplication::setApplicationDisplayName(QStringLiteral("Morlan7"));
   QGuiApplication::setDesktopFileName(QStringLiteral("morlan7"));
   QGuiApplication::setQuitOnLastWindowClosed(false);
   const QLocale polish(QLocale::Polish, QLocale::Poland);

@@ -36,6 +36,8 @@ const QString kWindowPlace = QStringLiteral("MainWindow");
 const QString kSidesPlace = QStringLiteral("SidePanel");
 const QString kListsPlace = QStringLiteral("FilePanel");
 constexpr int kSidePanelWidth = 230;
+// What a window manager puts round a window, at most.
+constexpr QSize kFrameRoom(16, 48);
 constexpr QSize kFirstSize = {1440, 900};
 
 const Menu& MenuOf(const Program& program) { return program.ActiveDocument ? program.ActiveDocument->menu : program.frame().menu; }
@@ -133,11 +135,16 @@ EditorPages& MainWindow::Pages() { return client_->Pages(); }
 void MainWindow::ShowInside(Form& form) { client_->ShowInside(form); }
 
 void MainWindow::RestorePlace() {
-  if (!restoreGeometry(places_.Place(kWindowPlace))) {
-    const QRect available = screen()->availableGeometry();
-    const QSize size = kFirstSize.boundedTo(available.size());
-    setGeometry(QRect(available.center() - QPoint(size.width() / 2, size.height() / 2), size).intersected(available));
+  const bool restored = restoreGeometry(places_.Place(kWindowPlace));
+  const QRect available = screen()->availableGeometry();
+  const QSize most = available.size() - kFrameRoom, wanted = restored ? size() : kFirstSize;
+  const bool fits = wanted.boundedTo(most) == wanted;
+  if (!restored || !fits) {
+    const QSize size = wanted.boundedTo(most);
+    setGeometry(QRect(available.center() - QPoint(size.width() / 2, size.height() / 2), size));
   }
+  // A frame that reaches beyond the screen would hide the status line or the title.
+  if (!fits) setWindowState(windowState() | Qt::WindowMaximized);
   if (!sides_->restoreState(places_.Place(kSidesPlace))) sides_->setSizes({kSidePanelWidth, width() - kSidePanelWidth});
   sidePanel_->Lists().restoreState(places_.Place(kListsPlace));
 }

@@ -28,6 +28,15 @@ constexpr SchemeEntry kSchemeEntries[] = {
     {"mn_theme_dark", Theme::Scheme::Dark},
 };
 
+QRect SelectedLine(const Program& program, MainWindow& window) {
+  EditorWidget* editor = window.Pages().Current();
+  if (!editor || !editor->isVisible() || !program.ActiveEditor || program.ActiveEditor->SelLength() == 0) return {};
+  editor->Settle();
+  const QRect caret = editor->CaretRectangle();
+  const QWidget* text = editor->viewport();
+  return {text->mapToGlobal(QPoint(0, caret.top())), QSize(text->width(), caret.height())};
+}
+
 }  // namespace
 
 QtFrontEnd::QtFrontEnd(QtWindows& windows, WindowPlaces& places, Theme& theme)
@@ -51,6 +60,7 @@ void QtFrontEnd::Show(Program& program) {
   window_->Pages().SetLineNumbersShown(lineNumbersShown_);
   windows_.SetMainWindow(window_.get());
   windows_.showInside = [this](Form& form) { window_->ShowInside(form); };
+  windows_.selectedLine = [this] { return SelectedLine(*program_, *window_); };
   window_->onFirstPaint = [this] { FirstPainted(); };
   window_->show();
   // Where no window manager gives the focus, keys would reach nobody.
@@ -60,6 +70,7 @@ void QtFrontEnd::Show(Program& program) {
 void QtFrontEnd::Hide() {
   windows_.SetMainWindow(nullptr);
   windows_.showInside = nullptr;
+  windows_.selectedLine = nullptr;
   window_.reset();
 }
 

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QFontDialog>
+#include <QScreen>
 
 #include "platform/qt/escapewatch.h"
 #include "platform/qt/filedialogs.h"
@@ -19,6 +20,7 @@ namespace {
 
 // Commands may yield on every key; looking for events more often than people notice would only cost time.
 constexpr int kYieldMilliseconds = 15;
+constexpr int kGapToSelection = 12, kTitleHeight = 36;
 
 }  // namespace
 
@@ -41,6 +43,26 @@ bool QtWindows::BringForward(Form& form) {
   return true;
 }
 
+// A dialog that asks about the selected text would hide just that from the middle of the window.
+void QtWindows::LeaveSelectionFree(QWidget& dialog) const {
+  const QWidget* parent = dialog.parentWidget();
+  const QRect line = parent && selectedLine ? selectedLine() : QRect();
+  if (line.isEmpty()) return;
+  const QSize size = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
+  QRect place(QPoint(), size + QSize(0, kTitleHeight));
+  place.moveCenter(parent->frameGeometry().center());
+  if (dialog.testAttribute(Qt::WA_Moved)) place.moveTopLeft(dialog.pos());
+  if (!place.intersects(line.adjusted(0, -kGapToSelection, 0, kGapToSelection))) return;
+  const QRect screen = parent->screen()->availableGeometry();
+  if (line.bottom() + kGapToSelection + place.height() <= screen.bottom())
+    place.moveTop(line.bottom() + kGapToSelection);
+  else if (line.top() - kGapToSelection - place.height() >= screen.top())
+    place.moveTop(line.top() - kGapToSelection - place.height());
+  else
+    return;
+  dialog.move(place.topLeft());
+}
+
 void QtWindows::ShowModal(Form& form) {
   if (BringForward(form)) return;
   FormDialog dialog(form, files_, &places_, Parent());
@@ -50,6 +72,7 @@ void QtWindows::ShowModal(Form& form) {
   if (!form.IsVisible()) return;
   dialog.Build();
   dialog.setWindowModality(Qt::ApplicationModal);
+  LeaveSelectionFree(dialog);
   open_[&form] = &dialog;
   const DialogTime dialogTime(*this);
   dialog.show();

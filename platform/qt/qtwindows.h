@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QRect>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -26,6 +27,8 @@ class QtWindows : public Windows {
   void SetMainWindow(QWidget* window) { mainWindow_ = window; }
   // Shows a form in the client area of the main window; empty while there is none.
   std::function<void(Form&)> showInside;
+  // The line of the selected text on the screen, which dialogs leave free where they can; empty where nothing is selected.
+  std::function<QRect()> selectedLine;
   // Whether the program waits in the middle of a command for other events to be handled.
   bool IsYielding() const { return yields_ > 0; }
 
@@ -49,6 +52,7 @@ class QtWindows : public Windows {
  private:
   QWidget* Parent() const;
   bool BringForward(Form& form);
+  void LeaveSelectionFree(QWidget& dialog) const;
   // While a dialog is up the pointer is an arrow, whatever the command that asks shows; behind it the window that asked
   // has the keys again, even where no window manager sees to that.
   class DialogTime {

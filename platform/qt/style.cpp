@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOption>
 
 #include "platform/qt/svgicons.h"
@@ -82,7 +83,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       const VisibleOutline visible(*option);
       QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    if (element == PE_PanelButtonCommand && option->state & State_HasFocus) DrawFocusOfButton(*option, *painter);
+    const bool isButton = element == PE_PanelButtonCommand && qobject_cast<const QPushButton*>(widget);
+    if (isButton && option->state & State_HasFocus) DrawFocusOfButton(*option, *painter);
     return;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);

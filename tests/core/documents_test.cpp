@@ -43,6 +43,23 @@ TEST_F(Documents, LookAtTheBareNameForUntitledOnes) {
   EXPECT_EQ("BezTytułu1.html"_pl, UniqueHtmlName(program));
 }
 
+TEST_F(Documents, TakeTheStoredSettings) {
+  program.MainIni.SetSubItemValue("EditorFont", "FontName", "Courier");
+  program.MainIni.SetSubItemValue("EditorFont", "FontSize", "16");
+  program.MainIni.SetSubItemValue("Hint", "SetupCarret", "False");
+  program.MainIni.SetSubItemValue("Hint", "LIExtend", "False");
+  NewDocumentOfName(program, test.Path("work\\b.html"));
+  Open("a.html", "<html>");
+  for (const std::string_view name : {"work\\a.html", "work\\b.html"}) {
+    const TEditor* document = FindDocument(program, test.Path(name));
+    ASSERT_TRUE(document) << name;
+    EXPECT_EQ(document->EditedText.Font().name, "Courier");
+    EXPECT_EQ(document->EditedText.Font().size, 16);
+    EXPECT_FALSE(document->EditedText.SetupCarret);
+    EXPECT_FALSE(document->EditedText.ExtendLI);
+  }
+}
+
 TEST_F(Documents, OpenWithTheirState) {
   TEditor& document = Open("a.html", "<html>\r\n<body>\r\n");
   EXPECT_EQ(test.Path("work\\a.html"), document.Caption());

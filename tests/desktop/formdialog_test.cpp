@@ -146,7 +146,7 @@ TEST_F(FormDialogTest, TheProgramsChangesReachTheScreen) {
 
 TEST_F(FormDialogTest, EnterPressesTheDefaultButton) {
   Open([](QWidget& modal) { PressIn(Named<QLineEdit>(modal, "nazwa"), Qt::Key_Return); });
-  EXPECT_EQ(form.events.back(), "ok");
+  EXPECT_EQ(std::count(form.events.begin(), form.events.end(), "ok"), 1);
 }
 
 TEST_F(FormDialogTest, EscapeAndTheCloseButtonPressTheCancelButton) {

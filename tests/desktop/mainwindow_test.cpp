@@ -95,7 +95,7 @@ TEST_F(MainWindowTest, MacrosAreChosenBesideTheirToolbar) {
   auto& macros = Named<QComboBox>(Window(), "makro");
   EXPECT_TRUE(macros.isVisible());
   EXPECT_FALSE(macros.accessibleName().isEmpty());
-  PressIn(macros, Qt::Key_B);
+  PressIn(macros, Qt::Key_Down);
   EXPECT_EQ(macros.currentText(), QStringLiteral("b"));
   ToolButton("Toolbar16", "run").click();
   EXPECT_EQ(Text(), "2");
@@ -181,6 +181,20 @@ TEST_F(MainWindowTest, ControlFOpensTheSearchAndFindsTheText) {
   });
   PressIn(Editor(), Qt::Key_F, Qt::ControlModifier);
   EXPECT_EQ(program.ActiveEditor->SelText(), "dwa");
+}
+
+TEST_F(MainWindowTest, ADialogLeavesTheSelectedTextFree) {
+  Start();
+  program.ActiveEditor->SetText(std::string(12, '\n') + "raz");
+  program.ActiveEditor->Select(12, 3);
+  auto& editor = static_cast<EditorWidget&>(Editor());
+  InNextModal([&editor](QWidget& modal) {
+    const QPoint text = editor.viewport()->mapToGlobal(editor.CaretRectangle().center());
+    const QRect dialog = modal.frameGeometry();
+    EXPECT_FALSE(dialog.top() <= text.y() && text.y() <= dialog.bottom());
+    PressIn(modal, Qt::Key_Escape);
+  });
+  PressIn(editor, Qt::Key_F, Qt::ControlModifier);
 }
 
 TEST_F(MainWindowTest, MenusHoldWhatTheProgramHasCommandsFor) {

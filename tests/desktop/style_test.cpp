@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QGroupBox>
 #include <QPainter>
 #include <QPushButton>
@@ -54,6 +55,13 @@ TEST_F(StyleTest, AButtonWithTheFocusHasARingInside) {
   const QImage with = Drawn(QStyle::PE_PanelButtonCommand, kDarkWindow, QStyle::State_Enabled | QStyle::State_HasFocus, button);
   EXPECT_NE(with.pixel(40, 3), without.pixel(40, 3));
   EXPECT_EQ(with.pixel(40, 15), without.pixel(40, 15));
+}
+
+TEST_F(StyleTest, ABoxOfRowsIsPaintedLikeAButtonButHasNoRing) {
+  const QComboBox box;
+  const QImage without = Drawn(QStyle::PE_PanelButtonCommand, kLightWindow, QStyle::State_Enabled, box);
+  const QImage with = Drawn(QStyle::PE_PanelButtonCommand, kLightWindow, QStyle::State_Enabled | QStyle::State_HasFocus, box);
+  EXPECT_EQ(with.pixel(40, 3), without.pixel(40, 3));
 }
 
 }  // namespace

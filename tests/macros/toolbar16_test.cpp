@@ -113,7 +113,7 @@ TEST_F(Toolbar16, TheWizardRefusesWhatAMacroCannotHold) {
       EXPECT_TRUE(form.IsVisible());
       return test.Asked().at(0);
     };
-    EXPECT_EQ(refusal("", ""), "message \"Nazwa makra zawiera znaki, których nie może mieć plik.\" \"Morlan7 Makro\" warning ok");
+    EXPECT_EQ(refusal("", ""), "message \"Podaj nazwę makra.\" \"Morlan7 Makro\" warning ok");
     EXPECT_EQ(refusal("jest", ""), "message \"Makro o podanej nazwie już istnieje !\" \"Morlan7 Makro\" warning ok");
     EXPECT_EQ(refusal("b", "{"), "message \"Tekst nie może zawierać nawiasów klamrowych.\" \"Morlan7 Makro\" warning ok");
     form.Command1.UserClicks();

@@ -67,6 +67,27 @@ TEST_F(PropertyHints, TheListComesUpWhileATagIsTyped) {
   EXPECT_FALSE(document.FastHelpC.Visible());
 }
 
+TEST_F(PropertyHints, AnUnknownTagTakesTheRowsOfAnotherAway) {
+  ListBox& list = test_.OpenText("").FastHelpC;
+  FillHintList(test_.program, list, "input");
+  list.Tag = "input";
+  FillHintList(test_.program, list, "nieznany");
+  EXPECT_EQ(list.ListCount(), 0u);
+}
+
+TEST_F(PropertyHints, AnAttributeThatWasAddedIsThereTheNextTimeTheTagIsTyped) {
+  TEditor& document = test_.OpenText("");
+  const auto type = [&](std::string_view text) {
+    for (const char character : text) PressKey(document, {UpperCharacter(character), 0, character});
+  };
+  type("<input ");
+  EXPECT_EQ(document.FastHelpC.ListCount(), 7u);
+  type(">");
+  SheetsOf(test_.program).Change([](PropertyFile& file) { return file.AddParam(file.FindTag("input"), {.name = "id"}) != 0; });
+  type("<input ");
+  EXPECT_EQ(document.FastHelpC.ListCount(), 8u);
+}
+
 TEST_F(PropertyHints, AChangedFileIsSeenByTheNextHint) {
   EXPECT_EQ(Filled("pusty"), Rows{});
   SheetsOf(test_.program).Change([](PropertyFile& file) { return file.AddParam(file.FindTag("pusty"), {.name = "id"}) != 0; });

@@ -87,6 +87,53 @@ TEST_F(TagEditors, AnAttributeBehind500CharactersIsNotSeenOnPurpose) {
   EXPECT_EQ(Rewritten(far), "<HR>");
 }
 
+struct EntryCase {
+  std::string_view menu, form;
+};
+
+TEST_F(TagEditors, EachDialogOpensFromAMenuToo) {
+  constexpr EntryCase kEntries[] = {
+      {"mn_line", "lineedit"},
+      {"mn_anchor", "anchor"},
+      {"mn_image", "image"},
+      {"mn_basefont", "Fonty"},
+      {"mn_quickfont", "Fonty"},
+      {"mn_tabledialog", "Tabela"},
+      {"mn_rowdialog", "DTR"},
+      {"mn_headerdialog", "DTH"},
+      {"mn_celldialog", "DTH"},
+      {"mn_embed", "embed"},
+      {"mn_quickstart", "QuickStart"},
+      {"mn_body", "BodyTag"},
+      {"mn_coments", "coments"},
+      {"mn_email", "email"},
+      {"mn_variables", "Variables"},
+      {"mn_aspservervar", "ServerVariables"},
+      {"mn_aspinclude", "IncludeFile"},
+      {"mn_cfservervar", "ServerVariables"},
+      {"mn_cfinclude", "IncludeFile"},
+      {"mn_cfquery", "CFQUERY"},
+      {"mn_cfmail", "CFMAIL"},
+      {"mn_cftable", "CFTable"},
+      {"mn_cffile", "CFFILE"},
+      {"mn_cfcol", "CFCOL"},
+      {"mn_applet", "Aplet"},
+      {"mn_script", "Script"},
+  };
+  for (const EntryCase& row : kEntries) {
+    const TEditor& document = test_.OpenText("");
+    ASSERT_NE(document.menu.Find(row.menu), nullptr) << row.menu;
+    EXPECT_TRUE(document.menu.Find(row.menu)->visible) << row.menu;
+    std::string opened;
+    test_.windows.modals.push_back([&opened](Form& form) {
+      opened = form.Name();
+      form.UserCloses();
+    });
+    EXPECT_TRUE(test_.program.commands.RunMenu(row.menu));
+    EXPECT_EQ(opened, row.form) << row.menu;
+  }
+}
+
 TEST_F(TagEditors, WithoutADocumentNothingOpens) {
   while (test_.program.ActiveDocument) test_.program.commands.RunMenu("mn_close");
   test_.program.commands.RunToolbar("Toolbar1", "line");

@@ -49,6 +49,12 @@ TEST_F(SimilarWordsTest, NamesComeLastForAWordInSmallLetters) {
   EXPECT_EQ(Similar("Gura", {"Hura"}), "Hura|");
 }
 
+TEST_F(SimilarWordsTest, AWordWithACapitalFindsNamesAndOtherWordsByTheirNearness) {
+  EXPECT_EQ(Similar("Wiatam", {"Fiata", "witam", "Witam"}), "Witam|");
+  EXPECT_EQ(Similar("Gura", {"Hura", "góra"_pl}), "Góra|Hura|");
+  EXPECT_EQ(Similar("GURA", {"góra"_pl}), "GÓRA|");
+}
+
 TEST_F(SimilarWordsTest, TwoSlipsAreLookedForWhereOneFindsNothing) {
   EXPECT_EQ(Similar("tsorna", {"strona"}), "strona|");
   EXPECT_EQ(Similar("abcdef", {"strona"}), "");
