@@ -24,8 +24,8 @@
 #include "platform/qt/editoraccessible.h"
 #include "platform/qt/flatscrollbar.h"
 #include "platform/qt/outsidetext.h"
-#include "platform/qt/qtkeys.h"
 #include "platform/qt/qtfont.h"
+#include "platform/qt/qtkeys.h"
 #include "platform/qt/qttext.h"
 
 namespace morlan {
