@@ -54,7 +54,9 @@ TEST_F(ContextMenu, OffersWhatFitsTheFileOfATag) {
       {"<a href=\"d.shtml\"", "a", "Otwórz plik d.shtml"_pl},
       {"<a href=\"e.map\"", "a", "Otwórz plik e.map"_pl},
       {"<a href=\"f.txt\"", "a", ""},
-      {"<a href=\"../work/c.html\"", "a", "Otwórz plik c.html"_pl},
+      {"<a href=\"../"
+       "work/c.html\"",
+       "a", "Otwórz plik c.html"_pl},
       {"<a href=\"http://a/c.html\"", "a", ""},
       {"<a href=\"#dół\""_pl, "a", "Skocz do etykiety DÓŁ"_pl},
       {"<a name=\"x\"", "a", ""},
